@@ -1,0 +1,42 @@
+# Fails when a folder under src/ includes what lies above or beside it.
+# Run as: cmake -DSOURCE_DIR=<repository> -P CheckIncludes.cmake
+cmake_minimum_required(VERSION 3.25)
+
+# What each folder may include. Folders below ui/ may not include Qt either.
+set(allowed_base "base")
+set(allowed_geo "base;geo")
+set(allowed_stations "base;geo;stations")
+set(allowed_map "base;geo;map")
+set(allowed_app "base;geo;stations;map;app")
+
+set(violations "")
+foreach(folder base geo stations map app)
+    file(GLOB_RECURSE sources "${SOURCE_DIR}/src/${folder}/*.h" "${SOURCE_DIR}/src/${folder}/*.cpp")
+    foreach(source ${sources})
+        file(STRINGS "${source}" includes REGEX "^ *# *include")
+        foreach(line ${includes})
+            if(line MATCHES "<Q"
+                    OR (line MATCHES "\"([a-z]+)/" AND NOT CMAKE_MATCH_1 IN_LIST allowed_${folder}))
+                string(APPEND violations "\n  ${source}: ${line}")
+            endif()
+        endforeach()
+    endforeach()
+endforeach()
+
+# The two window folders never include each other; they meet in main.cpp.
+foreach(pair "main;map" "map;main")
+    list(GET pair 0 folder)
+    list(GET pair 1 other)
+    file(GLOB_RECURSE sources
+        "${SOURCE_DIR}/src/ui/${folder}/*.h" "${SOURCE_DIR}/src/ui/${folder}/*.cpp")
+    foreach(source ${sources})
+        file(STRINGS "${source}" includes REGEX "^ *# *include *\"ui/${other}/")
+        foreach(line ${includes})
+            string(APPEND violations "\n  ${source}: ${line}")
+        endforeach()
+    endforeach()
+endforeach()
+
+if(violations)
+    message(FATAL_ERROR "includes against the layering:${violations}")
+endif()

@@ -1,0 +1,143 @@
+#include "base/CodePage.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+namespace base {
+
+namespace {
+
+// Characters of the bytes 0x80 to 0x9F; all other bytes are the character of the same number.
+constexpr std::array<char32_t, 32> kHighControls = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
+};
+
+char CodePageByte(char32_t character)
+{
+    if (character < 0x80 || (character >= 0xA0 && character <= 0xFF)) {
+        return static_cast<char>(static_cast<unsigned char>(character));
+    }
+    const auto* const found = std::find(kHighControls.begin(), kHighControls.end(), character);
+    if (found == kHighControls.end()) {
+        return '?';
+    }
+    return static_cast<char>(static_cast<unsigned char>(0x80 + (found - kHighControls.begin())));
+}
+
+// Length of the sequence that starts with `lead` and the smallest character it may encode.
+struct SequenceForm {
+    std::size_t length;
+    char32_t smallest;
+    unsigned char leadBits;
+};
+
+SequenceForm FormOf(unsigned char lead)
+{
+    if (lead < 0x80) {
+        return {.length = 1, .smallest = 0, .leadBits = 0x7F};
+    }
+    if ((lead & 0xE0U) == 0xC0U) {
+        return {.length = 2, .smallest = 0x80, .leadBits = 0x1F};
+    }
+    if ((lead & 0xF0U) == 0xE0U) {
+        return {.length = 3, .smallest = 0x800, .leadBits = 0x0F};
+    }
+    if ((lead & 0xF8U) == 0xF0U) {
+        return {.length = 4, .smallest = 0x10000, .leadBits = 0x07};
+    }
+    return {.length = 0, .smallest = 0, .leadBits = 0};
+}
+
+bool IsScalarValue(char32_t character)
+{
+    return character <= 0x10FFFF && (character < 0xD800 || character > 0xDFFF);
+}
+
+}  // namespace
+
+DecodedCharacter DecodeUtf8(std::string_view text)
+{
+    constexpr DecodedCharacter kMalformed = {.character = U'?', .length = 1, .valid = false};
+    const auto lead = static_cast<unsigned char>(text.front());
+    const SequenceForm form = FormOf(lead);
+    if (form.length == 0 || form.length > text.size()) {
+        return kMalformed;
+    }
+    char32_t character = lead & form.leadBits;
+    for (std::size_t i = 1; i < form.length; ++i) {
+        const auto next = static_cast<unsigned char>(text[i]);
+        if ((next & 0xC0U) != 0x80U) {
+            return kMalformed;
+        }
+        character = (character << 6U) | (next & 0x3FU);
+    }
+    if (character < form.smallest || !IsScalarValue(character)) {
+        return kMalformed;
+    }
+    return {.character = character, .length = form.length, .valid = true};
+}
+
+void AppendUtf8(std::string& text, char32_t character)
+{
+    const auto tail = [&](unsigned shift) {
+        text += static_cast<char>(0x80U | ((character >> shift) & 0x3FU));
+    };
+    if (!IsScalarValue(character)) {
+        text += '?';
+    } else if (character < 0x80) {
+        text += static_cast<char>(character);
+    } else if (character < 0x800) {
+        text += static_cast<char>(0xC0U | (character >> 6U));
+        tail(0);
+    } else if (character < 0x10000) {
+        text += static_cast<char>(0xE0U | (character >> 12U));
+        tail(6);
+        tail(0);
+    } else {
+        text += static_cast<char>(0xF0U | (character >> 18U));
+        tail(12);
+        tail(6);
+        tail(0);
+    }
+}
+
+std::string FromCodePage(std::string_view bytes)
+{
+    std::string text;
+    text.reserve(bytes.size());
+    for (const char c : bytes) {
+        const auto byte = static_cast<unsigned char>(c);
+        const bool special = byte >= 0x80 && byte < 0xA0;
+        AppendUtf8(text, special ? kHighControls[byte - 0x80U] : static_cast<char32_t>(byte));
+    }
+    return text;
+}
+
+std::string ToCodePage(std::string_view utf8)
+{
+    std::string bytes;
+    bytes.reserve(utf8.size());
+    while (!utf8.empty()) {
+        const DecodedCharacter next = DecodeUtf8(utf8);
+        bytes += next.valid ? CodePageByte(next.character) : '?';
+        utf8.remove_prefix(next.length);
+    }
+    return bytes;
+}
+
+bool IsUtf8(std::string_view bytes)
+{
+    while (!bytes.empty()) {
+        const DecodedCharacter next = DecodeUtf8(bytes);
+        if (!next.valid) {
+            return false;
+        }
+        bytes.remove_prefix(next.length);
+    }
+    return true;
+}
+
+}  // namespace base

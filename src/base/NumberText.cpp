@@ -1,0 +1,188 @@
+#include "base/NumberText.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstddef>
+#include <limits>
+#include <system_error>
+#include <utility>
+
+namespace base {
+
+namespace {
+
+bool IsDigit(char c)
+{
+    return c >= '0' && c <= '9';
+}
+
+// The digits and the one point that `text` begins with.
+std::string_view LeadingDigits(std::string_view text)
+{
+    std::size_t length = 0;
+    bool point = false;
+    while (length < text.size() && (IsDigit(text[length]) || (text[length] == '.' && !point))) {
+        point = point || text[length] == '.';
+        ++length;
+    }
+    return text.substr(0, length);
+}
+
+// What a run of digits beyond the range of a double stands for: too large or too small.
+double NearestFinite(std::string_view digits)
+{
+    const std::size_t first = digits.find_first_not_of('0');
+    const bool large = first != std::string_view::npos && digits[first] != '.';
+    return large ? std::numeric_limits<double>::max() : 0.0;
+}
+
+// A pattern taken apart.
+struct Pattern {
+    std::string_view before;
+    std::string_view behind;
+    std::size_t integerDigits = 0;  // forced digits before the separator
+    std::size_t decimals = 0;
+};
+
+Pattern ParsePattern(std::string_view pattern)
+{
+    const std::size_t begin = std::min(pattern.find_first_of("#0"), pattern.size());
+    const std::size_t point = std::min(pattern.find_first_not_of("#0", begin), pattern.size());
+    std::size_t end = point;
+    if (pattern.substr(point).starts_with(".0")) {
+        end = std::min(pattern.find_first_not_of('0', point + 1), pattern.size());
+    }
+    const std::string_view integer = pattern.substr(begin, point - begin);
+    return {
+        .before = pattern.substr(0, begin),
+        .behind = pattern.substr(end),
+        .integerDigits = static_cast<std::size_t>(std::count(integer.begin(), integer.end(), '0')),
+        .decimals = end - std::min(point + 1, end),
+    };
+}
+
+// Room for the longest double in fixed notation: 309 digits, a point and the decimals.
+using DigitBuffer = std::array<char, 400>;
+
+std::string_view Print(DigitBuffer& buffer, double magnitude, std::size_t decimals)
+{
+    const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude,
+                                            std::chars_format::fixed, static_cast<int>(decimals));
+    return {buffer.data(), static_cast<std::size_t>(end - buffer.data())};
+}
+
+// True when the exact value lies halfway between two texts of `decimals` decimals. With d decimals
+// that is an odd multiple of 10^-d / 2, which a double can hold only as an odd multiple of
+// 2^-(d+1).
+bool IsTie(double magnitude, std::size_t decimals)
+{
+    return std::fmod(std::ldexp(magnitude, static_cast<int>(decimals) + 1), 2.0) == 1.0;
+}
+
+// Decimal text one unit of its last place larger.
+std::string Increment(std::string_view digits)
+{
+    std::string text(digits);
+    for (std::size_t i = text.size(); i-- > 0;) {
+        if (text[i] == '9') {
+            text[i] = '0';
+        } else if (text[i] != '.') {
+            ++text[i];
+            return text;
+        }
+    }
+    return '1' + text;
+}
+
+// `magnitude` with `decimals` decimals, halves rounded up.
+std::string RoundedDigits(double magnitude, std::size_t decimals)
+{
+    DigitBuffer buffer;
+    if (!IsTie(magnitude, decimals)) {
+        return std::string(Print(buffer, magnitude, decimals));
+    }
+    std::string_view digits = Print(buffer, magnitude, decimals + 1);  // exact; ends in 5
+    digits.remove_suffix(decimals == 0 ? 2 : 1);
+    return Increment(digits);
+}
+
+}  // namespace
+
+std::string RepairDecimalComma(std::string_view text)
+{
+    std::string repaired(text);
+    std::replace(repaired.begin(), repaired.end(), ',', '.');
+    return repaired;
+}
+
+double Val(std::string_view text)
+{
+    text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
+    const bool negative = !text.empty() && text.front() == '-';
+    if (negative || (!text.empty() && text.front() == '+')) {
+        text.remove_prefix(1);
+    }
+    const std::string_view digits = LeadingDigits(text);
+    double magnitude = 0.0;
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(),
+                                              magnitude, std::chars_format::fixed);
+    if (error == std::errc::result_out_of_range) {
+        magnitude = NearestFinite(digits);
+    } else if (error != std::errc()) {
+        magnitude = 0.0;
+    }
+    return negative ? 0.0 - magnitude : magnitude;
+}
+
+double ReadNumber(std::string_view text)
+{
+    return Val(RepairDecimalComma(text));
+}
+
+std::string PlainDecimal(double value)
+{
+    if (!std::isfinite(value)) {
+        return {};
+    }
+    std::array<char, 800> buffer;  // the smallest double has 1 + 1 + 324 + 17 characters
+    const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(),
+                                            value + 0.0, std::chars_format::fixed);
+    return {buffer.data(), end};
+}
+
+NumberFormat::NumberFormat(std::string decimalSeparator)
+    : decimalSeparator_(std::move(decimalSeparator))
+{
+}
+
+std::string NumberFormat::operator()(double value, std::string_view pattern) const
+{
+    if (!std::isfinite(value)) {
+        return {};
+    }
+    const Pattern parts = ParsePattern(pattern);
+    const std::string digits = RoundedDigits(std::fabs(value), parts.decimals);
+    const std::size_t point = std::min(digits.find('.'), digits.size());
+    std::string_view integer = std::string_view(digits).substr(0, point);
+    if (integer == "0") {
+        integer = {};
+    }
+    const bool negative = value < 0.0 && digits.find_first_not_of("0.") != std::string::npos;
+
+    std::string text(parts.before);
+    if (negative) {
+        text += '-';
+    }
+    text.append(parts.integerDigits - std::min(parts.integerDigits, integer.size()), '0');
+    text += integer;
+    if (parts.decimals > 0) {
+        text += decimalSeparator_;
+        text += std::string_view(digits).substr(point + 1);
+    }
+    text += parts.behind;
+    return text;
+}
+
+}  // namespace base

@@ -1,0 +1,25 @@
+// UTM: 6-degree zones on GRS80, scale 0.9996.
+//
+// No false northing: southern positions have negative northings.
+
+#pragma once
+
+#include <cstdint>
+
+#include "geo/GeoPosition.h"
+
+namespace geo {
+
+struct UtmPosition {
+    std::int16_t zone = 0;  // floor((longitude + 186) / 6), at the limit of 16 bits beyond it
+    double easting = 0.0;   // m, false easting of 500000 included
+    double northing = 0.0;  // m
+};
+
+// Not finite at the poles and far outside the globe.
+UtmPosition GeoUTM(GeoPosition position);
+
+// The inverse. `zone` is taken as it was typed and need not be a whole number.
+GeoPosition UtmToGeo(double zone, double easting, double northing);
+
+}  // namespace geo
