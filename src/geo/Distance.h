@@ -10,8 +10,8 @@ inline constexpr double kEarthRadius = 6371.229;  // km
 
 // Distance in km between two points given in decimal degrees: 0 to pi times the earth radius,
 // exactly 0 for identical points. Points closer than about 90 m, away from the poles, are computed
-// on a plane, because the haversine loses its digits there. Not finite only for coordinates that
-// are not.
+// on a plane, because the haversine loses its digits there. Not finite only for coordinates, or a
+// difference of longitudes, that are not.
 double Distance(double latitude1, double latitude2, double longitude1, double longitude2);
 double Distance(GeoPosition from, GeoPosition to);
 

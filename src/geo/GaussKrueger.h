@@ -20,11 +20,12 @@ struct GridPosition {
 // `datum` is the setting "Gauss Krüger Normierung": 0 adds the constant offset "WGS84 (nur
 // Süddeutschl.)", 1 and any other value add nothing ("ED50").
 //
-// Longitudes west of -1.49999999 count on from 360: -2 lies in strip 119. Not finite near the poles
-// and for positions that are not.
+// Longitudes west of -1.49999999 count on from 360: -2 lies in strip 119. At the poles the easting
+// is finite but means nothing. Not finite far outside the globe and for positions that are not.
 GridPosition GeoGk(GeoPosition position, std::uint8_t datum);
 
-// The inverse. The strip comes from the easting alone.
+// The inverse: within strips 1 to 6 and 35 to 70 degrees north it agrees with GeoGk to 5 cm. The
+// strip is the whole millions of the easting, at the limit of 16 bits beyond it.
 GeoPosition GkToGeo(GridPosition grid, std::uint8_t datum);
 
 // Whole metres with at least seven digits, "0000000"; empty when not finite.
