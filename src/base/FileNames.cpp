@@ -1,0 +1,123 @@
+#include "base/FileNames.h"
+
+#include <array>
+#include <cerrno>
+#include <climits>
+#include <cstdio>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace base {
+
+namespace {
+
+std::error_code LastError()
+{
+    return {errno, std::generic_category()};
+}
+
+bool SameStatus(const struct stat& first, const struct stat& second)
+{
+    return first.st_dev == second.st_dev && first.st_ino == second.st_ino;
+}
+
+std::string LastPart(const std::string& name)
+{
+    return name.substr(name.rfind('/') + 1);  // npos + 1 is 0
+}
+
+}  // namespace
+
+std::string FollowLinks(const std::string& name)
+{
+    constexpr int kLongestChain = 40;
+    std::string current = name;
+    for (int links = 0; links < kLongestChain; ++links) {
+        std::array<char, PATH_MAX> target;
+        const ssize_t length = readlink(current.c_str(), target.data(), target.size());
+        if (length <= 0) {
+            break;
+        }
+        const std::string next(target.data(), static_cast<std::size_t>(length));
+        current = next.front() == '/' ? next : FolderOf(current) + '/' + next;
+    }
+    return current;
+}
+
+std::string FolderOf(const std::string& name)
+{
+    const std::size_t slash = name.rfind('/');
+    if (slash == std::string::npos) {
+        return ".";
+    }
+    return slash == 0 ? "/" : name.substr(0, slash);
+}
+
+std::error_code SyncFolder(const std::string& folder)
+{
+    const int descriptor = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0) {
+        return LastError();
+    }
+    std::error_code error;
+    // EINVAL: a file system without synchronisation of folders.
+    if (fsync(descriptor) != 0 && errno != EINVAL) {
+        error = LastError();
+    }
+    close(descriptor);
+    return error;
+}
+
+bool SameFile(const std::string& first, const std::string& second)
+{
+    struct stat firstStatus = {};
+    struct stat secondStatus = {};
+    const bool firstExists = stat(first.c_str(), &firstStatus) == 0;
+    const bool secondExists = stat(second.c_str(), &secondStatus) == 0;
+    if (firstExists || secondExists) {
+        return firstExists && secondExists && SameStatus(firstStatus, secondStatus);
+    }
+    const std::string firstTarget = FollowLinks(first);
+    const std::string secondTarget = FollowLinks(second);
+    return LastPart(firstTarget) == LastPart(secondTarget)
+           && stat(FolderOf(firstTarget).c_str(), &firstStatus) == 0
+           && stat(FolderOf(secondTarget).c_str(), &secondStatus) == 0
+           && SameStatus(firstStatus, secondStatus);
+}
+
+std::error_code SetAside(const std::string& name)
+{
+    const std::string target = FollowLinks(name);
+    struct stat status = {};
+    if (stat(target.c_str(), &status) != 0) {
+        return errno == ENOENT ? std::error_code() : LastError();
+    }
+    if (!S_ISREG(status.st_mode)) {
+        return std::make_error_code(std::errc::invalid_argument);
+    }
+    if (status.st_size == 0) {
+        return {};
+    }
+    constexpr int kMostCopies = 10000;
+    for (int number = 1; number <= kMostCopies; ++number) {
+        const std::string copy = target + ".ALT" + (number == 1 ? "" : std::to_string(number));
+        struct stat other = {};
+        if (lstat(copy.c_str(), &other) == 0) {
+            if (SameStatus(status, other)) {
+                return {};
+            }
+            continue;
+        }
+        // A second name keeps the bytes without reading them: files are replaced, never
+        // overwritten.
+        if (link(target.c_str(), copy.c_str()) != 0
+            && std::rename(target.c_str(), copy.c_str()) != 0) {
+            return LastError();
+        }
+        return SyncFolder(FolderOf(target));
+    }
+    return std::make_error_code(std::errc::file_exists);
+}
+
+}  // namespace base

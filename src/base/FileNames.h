@@ -1,0 +1,30 @@
+// What lies behind a file name: links, other names of the same file, copies set aside.
+
+#pragma once
+
+#include <string>
+#include <system_error>
+
+namespace base {
+
+// The name that opening `name` ends at: symbolic links in its last place followed one by one. The
+// target need not exist. A ring of links ends at one of its links.
+std::string FollowLinks(const std::string& name);
+
+// The folder part of `name`, "." when it has none, "/" for a name in the root folder.
+std::string FolderOf(const std::string& name);
+
+// Makes a rename or a new name in `folder` durable.
+std::error_code SyncFolder(const std::string& folder);
+
+// True when both names stand for one file: by the same path, by symbolic or hard links; for files
+// that do not exist yet, when creating both would create one.
+bool SameFile(const std::string& first, const std::string& second);
+
+// Keeps the bytes of a file, before it is replaced, beside it as NAME.ALT, or NAME.ALT2, NAME.ALT3
+// ... when that exists. Nothing happens to a missing or empty file, nor when one of these names
+// is already the very same file. The name itself may be gone afterwards where the file system has
+// no links.
+std::error_code SetAside(const std::string& name);
+
+}  // namespace base

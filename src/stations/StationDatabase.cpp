@@ -1,0 +1,66 @@
+#include "stations/StationDatabase.h"
+
+#include <algorithm>
+
+namespace stations {
+
+bool StationDatabase::Append(const StationRecord& record)
+{
+    if (Count() >= kMaxRecords) {
+        return false;
+    }
+    records_.push_back(record);
+    return true;
+}
+
+bool StationDatabase::Append(std::span<const StationRecord> records)
+{
+    if (records.size() > kMaxRecords - Count()) {
+        return false;
+    }
+    std::copy(records.begin(), records.end(), Extend(records.size()).begin());
+    return true;
+}
+
+void StationDatabase::Delete(std::size_t index)
+{
+    records_.erase(records_.begin() + static_cast<std::ptrdiff_t>(index));
+}
+
+void StationDatabase::Delete(std::span<const std::size_t> indexes)
+{
+    if (indexes.empty()) {
+        return;
+    }
+    // What lies between two removed records moves up as one piece.
+    auto kept = records_.begin() + static_cast<std::ptrdiff_t>(indexes.front());
+    for (std::size_t i = 0; i < indexes.size(); ++i) {
+        const std::size_t next = i + 1 < indexes.size() ? indexes[i + 1] : Count();
+        kept = std::copy(records_.begin() + static_cast<std::ptrdiff_t>(indexes[i]) + 1,
+                         records_.begin() + static_cast<std::ptrdiff_t>(next), kept);
+    }
+    records_.erase(kept, records_.end());
+}
+
+void StationDatabase::Truncate(std::size_t count)
+{
+    records_.resize(std::min(count, Count()));
+}
+
+std::span<StationRecord> StationDatabase::Extend(std::size_t count)
+{
+    const std::size_t old = Count();
+    records_.resize(old + count);
+    return std::span(records_).subspan(old);
+}
+
+void StationDatabase::Reorder(std::span<const std::uint32_t> order)
+{
+    decltype(records_) sorted(records_.size());
+    for (std::size_t i = 0; i < order.size(); ++i) {
+        sorted[i] = records_[order[i]];
+    }
+    records_.swap(sorted);
+}
+
+}  // namespace stations

@@ -1,0 +1,69 @@
+// The station database: up to 25000 records in the order of the list, line k being record k.
+//
+// The files hold one spare record behind the last; it carries nothing and exists only there.
+
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <vector>
+
+#include "stations/StationRecord.h"
+
+namespace stations {
+
+inline constexpr std::size_t kMaxRecords = 25000;
+
+class StationDatabase {
+public:
+    std::size_t Count() const { return records_.size(); }
+    bool Empty() const { return records_.empty(); }
+    std::span<const StationRecord> Records() const { return records_; }
+    const StationRecord& operator[](std::size_t index) const { return records_[index]; }
+
+    // All three return false, and change nothing, when that would make more than 25000 records.
+    // `records` must not be this database's own.
+    bool Append(const StationRecord& record);
+    bool Append(std::span<const StationRecord> records);
+    bool Append(const StationDatabase& other) { return Append(other.Records()); }
+
+    // `index` must be below Count().
+    void Delete(std::size_t index);
+
+    // Removes the records with the given indexes, which ascend and are below Count(); the others
+    // keep their order.
+    void Delete(std::span<const std::size_t> indexes);
+
+    // Drops the records from `count` on.
+    void Truncate(std::size_t count);
+
+    // Room for `count` records without moving those that are held.
+    void Reserve(std::size_t count) { records_.reserve(count); }
+
+    // `count` new records behind those that are held, to be filled by the caller at once: until
+    // then they hold anything. There must be room for them below the limit.
+    std::span<StationRecord> Extend(std::size_t count);
+
+    // Record `order[i]` becomes record i. `order` holds each index below Count() once.
+    void Reorder(std::span<const std::uint32_t> order);
+
+private:
+    // Leaves new records unset: a database read from a file is written once, not twice.
+    struct UnsetAllocator : std::allocator<StationRecord> {
+        template <typename>
+        struct rebind {
+            using other = UnsetAllocator;
+        };
+        void construct(StationRecord*) const {}
+        void construct(StationRecord* place, const StationRecord& record) const
+        {
+            std::construct_at(place, record);
+        }
+    };
+
+    std::vector<StationRecord, UnsetAllocator> records_;
+};
+
+}  // namespace stations
