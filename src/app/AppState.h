@@ -1,0 +1,48 @@
+// The program's one shared state: every window reads and writes it directly.
+//
+// main() owns the only object and hands it to the windows by reference. It outlives them, so that
+// a window that is closed and opened again finds everything as it left it. There is one thread and
+// nothing is locked. No section announces a change: whoever changes something also calls what has
+// to be shown again, because the order of those calls is part of the operation.
+
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+#include "base/NumberText.h"
+#include "geo/AngleText.h"
+#include "geo/GeoPosition.h"
+#include "stations/Configuration.h"
+
+namespace app {
+
+// The form of the coordinates that the user is editing. Only this form's changes are acted upon.
+enum class EntryGroup : std::int16_t {
+    None = -1,
+    Locator = 0,
+    Decimal = 1,
+    DegreeMinute = 2,
+    GaussKrueger = 3,
+    Utm = 4,
+};
+
+// Station 1 and Station 2 as the panels show them; element 0 is Station 1.
+struct StationsShown {
+    std::array<geo::GeoPosition, 2> position;
+};
+
+// The coordinate fields: which form is being edited, and how degree-minutes are written.
+struct EntryState {
+    EntryGroup activeGroup = EntryGroup::None;
+    geo::DegreeMinuteMode degreeMinuteMode = geo::DegreeMinuteMode::Hundredths;
+};
+
+struct AppState {
+    stations::Configuration configuration;
+    StationsShown shown;
+    EntryState entry;
+    base::NumberFormat numberFormat;  // the decimal separator of the user's regional settings
+};
+
+}  // namespace app

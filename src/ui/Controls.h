@@ -1,0 +1,24 @@
+// Naming of controls: every control carries the name it has in the program as its object name, so
+// that tests and assistive programs find it.
+
+#pragma once
+
+#include <QString>
+
+namespace ui {
+
+// Names `object` and hands it on.
+template <typename Object>
+Object* Named(Object* object, const QString& name)
+{
+    object->setObjectName(name);
+    return object;
+}
+
+// Name of element `index` of a control array: "Text12_1".
+inline QString ElementName(const char* array, int index)
+{
+    return QLatin1StringView(array) + QLatin1Char('_') + QString::number(index);
+}
+
+}  // namespace ui

@@ -1,0 +1,60 @@
+// The coordinate fields of both stations: one position each, shown in five forms.
+
+#pragma once
+
+#include <array>
+
+#include <QObject>
+
+#include "app/AppState.h"
+
+namespace ui {
+
+class EntryField;
+class FormHeadings;
+class ResultBlock;
+class StationPanel;
+
+// Keeps the five forms of a station's position in step while one of them is edited.
+//
+// A change is acted upon only in the form being edited, the active entry group: it is read into
+// the shared position, then every other form is shown again from there. The form being edited is
+// left as typed. Writing a field raises its change event too; the group test is what ends that.
+class CoordinateFields : public QObject {
+    Q_OBJECT
+
+public:
+    CoordinateFields(app::AppState& state, std::array<StationPanel*, 2> panel,
+                     FormHeadings& headings, ResultBlock& result, QObject* parent = nullptr);
+
+    // Show the position of a station in one form. A form without a finite result is left empty.
+    void ShowDecimal(int station);  // Text2, Text3
+    void GRDMINSEC(int station);    // Text4 to Text11
+    void ShowLocator(int station);  // Text1
+    void GeoGk(int station);        // Text12, Text13
+    void GeoUTM(int station);       // Text20 to Text22; nothing while they are being edited
+
+    // Distance and both directions of the pair.
+    void Entfernung();
+
+    // Sets a station from elsewhere: start-up, list, mean value, map click. Decimal degrees become
+    // the active group; writing the two fields as plain decimal text derives all the other forms.
+    void SetPosition(int station, geo::GeoPosition position);
+
+    // Takes the degree format of the configuration over and shows both stations in it.
+    void Set_GMS_String();
+
+private:
+    void Connect(StationPanel& panel);
+    void Changed(StationPanel& panel, const EntryField* field, app::EntryGroup group);
+    void Read(StationPanel& panel, const EntryField* field, app::EntryGroup group);
+    void ShowForm(int station, app::EntryGroup form);
+    void Option2Clicked();
+
+    app::AppState& state_;
+    std::array<StationPanel*, 2> panel_;
+    FormHeadings& headings_;
+    ResultBlock& result_;
+};
+
+}  // namespace ui

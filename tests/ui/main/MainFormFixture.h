@@ -1,0 +1,57 @@
+// The real main window, shown and active, with controls found by their names.
+
+#pragma once
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include "app/AppState.h"
+#include "ui/ScriptedDialogs.h"
+#include "ui/main/MainForm.h"
+
+namespace ui {
+
+class MainFormFixture : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        window.ShowStartStations();
+        window.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    }
+
+    template <typename Widget>
+    Widget* Find(const char* name)
+    {
+        auto* const widget = window.findChild<Widget*>(QLatin1StringView(name));
+        if (widget == nullptr) {
+            ADD_FAILURE() << "no control named " << name;
+            throw std::runtime_error(name);
+        }
+        return widget;
+    }
+
+    QLineEdit* Field(const char* name) { return Find<QLineEdit>(name); }
+
+    std::string Text(const char* name) { return Field(name)->text().toStdString(); }
+    std::string Label(const char* name) { return Find<QLabel>(name)->text().toStdString(); }
+
+    // Clicks into the field, which selects its text, and types over it.
+    void Type(const char* name, const QString& text)
+    {
+        QLineEdit* const field = Field(name);
+        field->clearFocus();
+        QTest::mouseClick(field, Qt::LeftButton);
+        QTest::keyClick(field, Qt::Key_Delete);
+        QTest::keyClicks(field, text);
+    }
+
+    app::AppState state;
+    ScriptedDialogs dialogs;
+    MainForm window{state, dialogs};
+};
+
+}  // namespace ui
