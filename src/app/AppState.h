@@ -14,6 +14,11 @@
 #include "geo/AngleText.h"
 #include "geo/GeoPosition.h"
 #include "stations/Configuration.h"
+#include "stations/ListLine.h"
+#include "stations/Sorting.h"
+#include "stations/StationDatabase.h"
+#include "stations/StationRecord.h"
+#include "stations/WorkingFile.h"
 
 namespace app {
 
@@ -30,6 +35,7 @@ enum class EntryGroup : std::int16_t {
 // Station 1 and Station 2 as the panels show them; element 0 is Station 1.
 struct StationsShown {
     std::array<geo::GeoPosition, 2> position;
+    std::array<stations::StationRecord, 2> record;  // as of the last S1S2_Update
 };
 
 // The coordinate fields: which form is being edited, and how degree-minutes are written.
@@ -38,8 +44,34 @@ struct EntryState {
     geo::DegreeMinuteMode degreeMinuteMode = geo::DegreeMinuteMode::Hundredths;
 };
 
+// What a click on a line of the station list does.
+enum class ListMode {
+    Nop,
+    Get,    // load the record into the target panel
+    Clear,  // load it and delete it from the database
+};
+
+// The station list and its order.
+struct ListState {
+    stations::ListKey key = stations::ListKey::Callsign;  // leads each line; chooses the sort order
+    stations::Order order = stations::Order::Ascending;   // no command changes it
+    ListMode mode = ListMode::Nop;
+    int targetPanel = 0;  // the panel that a clicked line is loaded into
+};
+
+// Start and end of a run.
+struct SessionState {
+    bool configurationSaved = false;    // the file is written once at the end of a run
+    bool configurationChanged = false;  // by the configuration dialog
+    stations::OldBytes workingFileBytes = stations::OldBytes::Known;
+    stations::OldBytes configurationBytes = stations::OldBytes::Known;
+};
+
 struct AppState {
+    stations::StationDatabase database;
     stations::Configuration configuration;
+    ListState list;
+    SessionState session;
     StationsShown shown;
     EntryState entry;
     base::NumberFormat numberFormat;  // the decimal separator of the user's regional settings

@@ -1,0 +1,41 @@
+// What the map window asks of the main window.
+
+#pragma once
+
+#include <cstddef>
+
+#include "geo/GeoPosition.h"
+#include "stations/StationRecord.h"
+
+namespace app {
+
+class MainWindowPort {
+public:
+    MainWindowPort() = default;
+    MainWindowPort(const MainWindowPort&) = delete;
+    MainWindowPort& operator=(const MainWindowPort&) = delete;
+    virtual ~MainWindowPort() = default;
+
+    // Writes a station into its panel: the texts, then the position as plain decimal text, from
+    // which every other form and the result follow. 0 = Station 1.
+    virtual void SetStation(int station, const stations::StationTexts& texts,
+                            geo::GeoPosition position) = 0;
+
+    // Builds the shared records of Station 1 and Station 2 from the panels.
+    virtual void S1S2_Update() = 0;
+
+    // Appends a record to the database. With 25000 records it shows the message about that, changes
+    // nothing and returns false; otherwise the caller refills the list and rewrites the file.
+    virtual bool AppendRecord(const stations::StationRecord& record) = 0;
+
+    // Fills the station list anew from the database.
+    virtual void List1Load() = 0;
+
+    // Rewrites the working file and tells the user when that fails.
+    virtual void UpdateQTHFile() = 0;
+
+    // True when line `index` of the station list is marked.
+    virtual bool IsMarked(std::size_t index) const = 0;
+};
+
+}  // namespace app
