@@ -1,26 +1,55 @@
 // Makes the shared state, the dialogs and the windows, joins them and runs the event loop.
 
+#include <cstdlib>
+
 #include <QApplication>
+#include <QFile>
 #include <QLocale>
+#include <QStandardPaths>
 
 #include "app/AppState.h"
+#include "app/ProgramFolder.h"
 #include "ui/GermanTexts.h"
 #include "ui/UserDialogs.h"
 #include "ui/main/MainForm.h"
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// File names of the core are the file system's own bytes.
+std::string Native(const QString& name)
+{
+    return QFile::encodeName(name).toStdString();
+}
+
+}  // namespace
+
 int main(int argc, char** argv)
 {
     const QApplication application(argc, argv);
     QCoreApplication::setApplicationName(u"Kompasso"_s);
     ui::InstallGermanTexts();
+    ui::QtDialogs dialogs;
+
+    const std::string folder = app::ProgramFolder(
+        Native(QCoreApplication::applicationDirPath()),
+        Native(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)));
+    if (app::EnterFolder(folder)) {
+        dialogs.Inform(nullptr, u"Kompasso Setup-Fehler"_s,
+                       u"Der Ordner "_s + QString::fromStdString(folder)
+                           + u" lässt sich nicht anlegen oder betreten."_s);
+        return EXIT_FAILURE;
+    }
 
     app::AppState state;
     state.numberFormat = base::NumberFormat(QLocale::system().decimalPoint().toStdString());
-    ui::QtDialogs dialogs;
     ui::MainForm window(state, dialogs);
-    window.ShowStartStations();
+    if (!window.Start()) {
+        return EXIT_FAILURE;
+    }
+    QObject::connect(&window, &ui::MainForm::Ended, &application, &QApplication::quit,
+                     Qt::QueuedConnection);
     window.show();
     return QApplication::exec();
 }

@@ -36,8 +36,46 @@ public:
         return answer;
     }
 
+    QString OpenFile(QWidget* /*parent*/, const FileRequest& request) override
+    {
+        return NextFile(request);
+    }
+
+    QString OpenOrCreateFile(QWidget* /*parent*/, const FileRequest& request) override
+    {
+        return NextFile(request);
+    }
+
+    QString SaveFile(QWidget* /*parent*/, const FileRequest& request,
+                     const QString& /*suffix*/) override
+    {
+        return NextFile(request);
+    }
+
+    bool OpenDocument(const QString& file) override
+    {
+        opened.push_back(file);
+        return canOpen;
+    }
+
     std::vector<Message> said;
+    std::vector<FileRequest> asked;  // what the file dialogs were asked for
+    std::deque<QString> files;       // what they return; cancelled when there is none left
+    std::vector<QString> opened;     // documents
+    bool canOpen = true;
     std::deque<bool> answers;  // true = OK; Cancel when there is none left
+
+private:
+    QString NextFile(const FileRequest& request)
+    {
+        asked.push_back(request);
+        if (files.empty()) {
+            return {};
+        }
+        QString file = files.front();
+        files.pop_front();
+        return file;
+    }
 };
 
 }  // namespace ui

@@ -203,6 +203,7 @@ void CoordinateFields::Entfernung()
     result_.Show(geo::DistanceLine(geo::Distance(station1, station2), format),
                  geo::DirectionText(station1, station2, mode, format),
                  geo::DirectionText(station2, station1, mode, format));
+    emit StationsChanged();
 }
 
 void CoordinateFields::SetPosition(int station, geo::GeoPosition position)

@@ -44,6 +44,9 @@ public:
     // Takes the degree format of the configuration over and shows both stations in it.
     void Set_GMS_String();
 
+signals:
+    void StationsChanged();  // a position, or how it is shown
+
 private:
     void Connect(StationPanel& panel);
     void Changed(StationPanel& panel, const EntryField* field, app::EntryGroup group);

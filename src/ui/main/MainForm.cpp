@@ -1,25 +1,40 @@
 #include "ui/main/MainForm.h"
 
+#include <ctime>
+
+#include <QCloseEvent>
 #include <QGridLayout>
+#include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
-#include "app/DefaultStations.h"
+#include "app/ShutDown.h"
+#include "app/StartUp.h"
+#include "base/TimeStamp.h"
 #include "ui/Controls.h"
+#include "ui/DatabaseActions.h"
+#include "ui/UserDialogs.h"
+#include "ui/main/CfgForm.h"
 #include "ui/main/CoordinateFields.h"
+#include "ui/main/Display.h"
 #include "ui/main/FormHeadings.h"
+#include "ui/main/PictureClip.h"
 #include "ui/main/ResultBlock.h"
+#include "ui/main/StationListFrame.h"
+#include "ui/main/StationListView.h"
 #include "ui/main/StationPanel.h"
 
 namespace ui {
 
 using namespace Qt::StringLiterals;
 
-MainForm::MainForm(app::AppState& state, UserDialogs& dialogs) : state_(state), dialogs_(dialogs)
+MainForm::MainForm(app::AppState& state, UserDialogs& dialogs)
+    : state_(state), dialogs_(dialogs), PC1(Named(new PictureClip(this), u"PC1"_s))
 {
     setObjectName(u"MainForm"_s);
     setWindowTitle(u"KOMPASSO V0.28"_s);
+    AddMenus();
 
     // On a screen that is too small for the contents every field stays within reach.
     auto* const scroll = new QScrollArea(this);
@@ -29,9 +44,20 @@ MainForm::MainForm(app::AppState& state, UserDialogs& dialogs) : state_(state), 
     QWidget* const contents = NewContents();
     scroll->setWidget(contents);
     setCentralWidget(scroll);
-    resize(contents->sizeHint().boundedTo(screen()->availableSize()));
+    constexpr int kUsualHeight = 660;  // shows a dozen lines of the list
+    resize(QSize(contents->sizeHint().width(), kUsualHeight).boundedTo(screen()->availableSize()));
 
     fields_ = new CoordinateFields(state_, panel_, *headings_, *result_, this);
+    configuration_ = new CfgForm(state_, this);
+    notice_ = new Display(this);
+    ConnectPanels();
+    connect(fields_, &CoordinateFields::StationsChanged, this, &MainForm::Changed);
+    connect(list_, &StationListFrame::DatabaseChanged, this, &MainForm::Changed);
+    connect(list_->List1, &StationListView::LineChosen, this, &MainForm::TakeLine);
+    connect(result_->Command5, &QPushButton::clicked, this, &MainForm::ShowMap);
+    connect(configuration_, &CfgForm::Confirmed, this, &MainForm::TakeConfiguration);
+    DrawPictures();
+    list_->Close();
     panel_[0]->Text1->setFocus();
 }
 
@@ -42,7 +68,6 @@ QWidget* MainForm::NewContents()
     auto* const grid = new QGridLayout;
     column->addLayout(grid);
 
-    // The grid must know its window before controls are made in it.
     constexpr int kFormSpacing = 18;
     grid->setHorizontalSpacing(kFormSpacing);
     grid->setColumnStretch(StationPanel::kInfo, 1);
@@ -50,30 +75,187 @@ QWidget* MainForm::NewContents()
     panel_[0] = new StationPanel(0, *grid, 1);
     panel_[1] = new StationPanel(1, *grid, 1 + StationPanel::kRows);
 
+    auto* const line = new QHBoxLayout;
+    column->addLayout(line, 1);
     result_ = new ResultBlock(contents);
-    column->addWidget(result_, 1);
+    list_ = new StationListFrame(state_, dialogs_, contents);
+    constexpr int kListStretch = 2;
+    line->addWidget(result_, 1);
+    line->addWidget(list_, kListStretch);
     return contents;
 }
 
-void MainForm::ShowStartStations()
+void MainForm::ConnectPanels()
 {
-    fields_->Set_GMS_String();
-    for (const int station : {0, 1}) {
-        ShowBuiltIn(station);
+    for (StationPanel* const panel : panel_) {
+        const int station = panel->station;
+        connect(panel->Command1, &QPushButton::clicked, this,
+                [this, station] { list_->Open(app::ListMode::Get, station); });
+        connect(panel->Command4, &QPushButton::clicked, this,
+                [this, station] { list_->Open(app::ListMode::Clear, station); });
+        connect(panel->SA, &QPushButton::clicked, this, [this, station] { SavePanel(station); });
     }
 }
 
-void MainForm::ShowBuiltIn(int station)
+void MainForm::DrawPictures()
 {
-    const app::BuiltInStation& builtIn = app::kDefaultStations[station];
-    StationPanel& panel = *panel_[static_cast<std::size_t>(station)];
-    panel.Text14->Show(QString::fromUtf8(builtIn.callsign));
-    panel.Text15->Show(QString::fromUtf8(builtIn.name));
-    panel.Text16->Show(QString::fromUtf8(builtIn.place));
-    for (EntryField* const empty : {panel.Text17, panel.Text18, panel.Text19}) {
-        empty->Show({});
+    PC1->Draw(palette());
+    for (StationPanel* const panel : panel_) {
+        panel->Command1->setIcon(PC1->Icon(PictureClip::kLoad));
+        panel->Command4->setIcon(PC1->Icon(PictureClip::kRemove));
+        panel->SA->setIcon(PC1->Icon(PictureClip::kSave));
     }
-    fields_->SetPosition(station, builtIn.position);
+    result_->Command5->setIcon(PC1->Icon(PictureClip::kMap));
+    list_->Command2->setIcon(PC1->Icon(PictureClip::kClose));
+    list_->Command3->setIcon(PC1->Icon(PictureClip::kSort));
+    list_->Command6->setIcon(PC1->Icon(PictureClip::kMoveOut));
+    list_->Command7->setIcon(PC1->Icon(PictureClip::kSave));
+}
+
+bool MainForm::Start()
+{
+    if (!app::LoadAtStartUp(state_)
+        && dialogs_.AskOkCancel(this, u"Kompasso Setup-Fehler"_s,
+                                u"Setup-Fehler, bitte Work.* und *.cfg löschen!\nBeenden?"_s)) {
+        return false;
+    }
+    fields_->Set_GMS_String();
+    for (const int station : {0, 1}) {
+        const app::StartStation shown = app::StationAtStartUp(state_.configuration, station);
+        SetStation(station, shown.texts, shown.position);
+    }
+    list_->List1Load();
+    return true;
+}
+
+void MainForm::SetStation(int station, const stations::StationTexts& texts,
+                          geo::GeoPosition position)
+{
+    const std::array<EntryField*, 6> fields =
+        panel_[static_cast<std::size_t>(station)]->StationFields();
+    const std::array shown = {&texts.callsign,  &texts.name,   &texts.place,
+                              &texts.frequency, &texts.remark, &texts.date};
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        fields[i]->Show(QString::fromStdString(*shown[i]));
+    }
+    fields_->SetPosition(station, position);
+}
+
+stations::StationTexts MainForm::TextsOf(int station) const
+{
+    const StationPanel& panel = *panel_[static_cast<std::size_t>(station)];
+    return {.callsign = panel.Text14->text().toStdString(),
+            .name = panel.Text15->text().toStdString(),
+            .place = panel.Text16->text().toStdString(),
+            .frequency = panel.Text17->text().toStdString(),
+            .remark = panel.Text18->text().toStdString(),
+            .date = panel.Text19->text().toStdString()};
+}
+
+stations::StationRecord MainForm::NewRecord(int station) const
+{
+    return stations::BuildRecord(TextsOf(station),
+                                 state_.shown.position[static_cast<std::size_t>(station)],
+                                 base::TimeStamp(std::time(nullptr)));
+}
+
+void MainForm::S1S2_Update()
+{
+    state_.shown.record = {NewRecord(0), NewRecord(1)};
+}
+
+bool MainForm::AppendRecord(const stations::StationRecord& record)
+{
+    return ui::AppendRecord(this, state_, dialogs_, record);
+}
+
+void MainForm::List1Load()
+{
+    list_->List1Load();
+}
+
+void MainForm::UpdateQTHFile()
+{
+    ui::UpdateQTHFile(this, state_, dialogs_);
+}
+
+bool MainForm::IsMarked(std::size_t index) const
+{
+    return list_->List1->IsMarked(index);
+}
+
+void MainForm::TakeLine(int row)
+{
+    const auto index = static_cast<std::size_t>(row);
+    const app::ListMode mode = state_.list.mode;
+    if (mode == app::ListMode::Nop || index >= state_.database.Count()) {
+        return;
+    }
+    const int station = state_.list.targetPanel;
+    const stations::StationRecord record = state_.database[index];
+    SetStation(station, stations::TextsOf(record), record.Position());
+    if (mode == app::ListMode::Clear) {
+        state_.database.Delete(index);
+        // Opened for loading: a deletion does not stay in delete mode.
+        list_->Open(app::ListMode::Get, station);
+        UpdateQTHFile();
+        emit Changed();
+    }
+    list_->ResetSortCombo();
+}
+
+void MainForm::SavePanel(int station)
+{
+    if (!AppendRecord(NewRecord(station))) {
+        return;
+    }
+    List1Load();
+    if (ui::UpdateQTHFile(this, state_, dialogs_)) {
+        notice_->ShowMessage(u"Eintrag gespeichert!"_s);
+    }
+    emit Changed();
+}
+
+void MainForm::ShowConfiguration()
+{
+    configuration_->Open();
+}
+
+void MainForm::TakeConfiguration()
+{
+    state_.entry.activeGroup = app::EntryGroup::Decimal;
+    for (const int station : {0, 1}) {
+        fields_->GRDMINSEC(station);
+    }
+    for (const int station : {0, 1}) {
+        fields_->GeoGk(station);
+    }
+    for (const int station : {0, 1}) {
+        fields_->GeoUTM(station);
+    }
+    fields_->Entfernung();
+}
+
+void MainForm::ShowMap()
+{
+    S1S2_Update();
+    emit MapWanted();
+}
+
+void MainForm::closeEvent(QCloseEvent* event)
+{
+    S1S2_Update();
+    TellWriteError(this, dialogs_, app::SaveAtEnd(state_), app::kConfigurationName);
+    event->accept();
+    emit Ended();
+}
+
+void MainForm::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && list_ != nullptr) {
+        DrawPictures();
+    }
 }
 
 }  // namespace ui

@@ -1,4 +1,5 @@
-// The main window: two stations, their coordinates in five forms, distance and direction.
+// The main window: two stations, their coordinates in five forms, distance and direction, the
+// station list and the menus.
 
 #pragma once
 
@@ -7,34 +8,78 @@
 #include <QMainWindow>
 
 #include "app/AppState.h"
+#include "app/MainWindowPort.h"
 
 namespace ui {
 
+class CfgForm;
 class CoordinateFields;
+class Display;
 class FormHeadings;
+class PictureClip;
 class ResultBlock;
+class StationListFrame;
 class StationPanel;
 class UserDialogs;
 
-class MainForm : public QMainWindow {
+class MainForm : public QMainWindow, public app::MainWindowPort {
     Q_OBJECT
 
 public:
     MainForm(app::AppState& state, UserDialogs& dialogs);
 
-    // Fills both panels: the last step before the window is shown.
-    void ShowStartStations();
+    // Loads configuration and database and fills the window. False when the user, asked about a
+    // file that cannot be read, wants the program to end; nothing more is written then.
+    bool Start();
+
+    void SetStation(int station, const stations::StationTexts& texts,
+                    geo::GeoPosition position) override;
+    void S1S2_Update() override;
+    bool AppendRecord(const stations::StationRecord& record) override;
+    void List1Load() override;
+    void UpdateQTHFile() override;
+    bool IsMarked(std::size_t index) const override;
+
+signals:
+    void MapWanted();
+    void Changed();  // a station or the database, here
+    void Ended();    // everything is saved and the window closed
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
+    struct MenuItem;
+
     QWidget* NewContents();
-    void ShowBuiltIn(int station);
+    void ConnectPanels();
+    void DrawPictures();
+
+    void AddMenus();
+    void AddMenu(const QString& title, std::initializer_list<MenuItem> items);
+
+    stations::StationTexts TextsOf(int station) const;
+    stations::StationRecord NewRecord(int station) const;
+    void TakeLine(int row);
+    void SavePanel(int station);
+    void ShowConfiguration();
+    void TakeConfiguration();
+    void ShowMap();
+    void Exit();
+    void ShowHelp();
+    void ShowVersions();
 
     app::AppState& state_;
     UserDialogs& dialogs_;
+    PictureClip* PC1 = nullptr;
     FormHeadings* headings_ = nullptr;
     std::array<StationPanel*, 2> panel_ = {};
     ResultBlock* result_ = nullptr;
+    StationListFrame* list_ = nullptr;
     CoordinateFields* fields_ = nullptr;
+    CfgForm* configuration_ = nullptr;
+    Display* notice_ = nullptr;
 };
 
 }  // namespace ui

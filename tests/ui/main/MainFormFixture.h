@@ -2,8 +2,10 @@
 
 #pragma once
 
+#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -18,7 +20,9 @@ class MainFormFixture : public testing::Test {
 protected:
     void SetUp() override
     {
-        window.ShowStartStations();
+        ASSERT_TRUE(folder.isValid());
+        ASSERT_TRUE(QDir::setCurrent(folder.path()));
+        ASSERT_TRUE(window.Start());
         window.show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     }
@@ -49,6 +53,7 @@ protected:
         QTest::keyClicks(field, text);
     }
 
+    QTemporaryDir folder;  // the program directory of the test
     app::AppState state;
     ScriptedDialogs dialogs;
     MainForm window{state, dialogs};

@@ -1,0 +1,41 @@
+#include "app/ProgramFolder.h"
+
+#include <filesystem>
+#include <unistd.h>
+
+namespace app {
+
+namespace {
+
+bool InBuildTree(const std::filesystem::path& folder)
+{
+    std::error_code error;
+    for (std::filesystem::path at = folder; !at.empty(); at = at.parent_path()) {
+        if (std::filesystem::exists(at / "CMakeCache.txt", error)) {
+            return true;
+        }
+        if (at == at.parent_path()) {
+            break;
+        }
+    }
+    return false;
+}
+
+}  // namespace
+
+std::string ProgramFolder(const std::string& folderOfProgram, const std::string& userFolder)
+{
+    const bool portable =
+        access(folderOfProgram.c_str(), W_OK | X_OK) == 0 && !InBuildTree(folderOfProgram);
+    return portable ? folderOfProgram : userFolder;
+}
+
+std::error_code EnterFolder(const std::string& folder)
+{
+    std::error_code error;
+    std::filesystem::create_directories(folder, error);
+    std::filesystem::current_path(folder, error);
+    return error;
+}
+
+}  // namespace app

@@ -1,0 +1,18 @@
+// Where the program keeps its files.
+
+#pragma once
+
+#include <string>
+#include <system_error>
+
+namespace app {
+
+// The program directory: the folder that holds the program when the user can write there (a
+// portable copy), else `userFolder`. A program that lies in its build tree counts as not portable,
+// so that removing the tree loses no station.
+std::string ProgramFolder(const std::string& folderOfProgram, const std::string& userFolder);
+
+// Creates the folder when it is missing and makes it the current directory, which it then stays.
+std::error_code EnterFolder(const std::string& folder);
+
+}  // namespace app

@@ -1,0 +1,49 @@
+#include "ui/DatabaseActions.h"
+
+#include <QFile>
+
+#include "ui/UserDialogs.h"
+
+namespace ui {
+
+using namespace Qt::StringLiterals;
+
+void TellWriteError(QWidget* parent, UserDialogs& dialogs, std::error_code error,
+                    const std::string& fileName)
+{
+    if (!error) {
+        return;
+    }
+    const QString name = QFile::decodeName(QByteArray::fromStdString(fileName));
+    dialogs.Inform(parent, u"Schreibfehler"_s,
+                   u"Das Schreiben auf die Datei "_s + name
+                       + u" schlug fehl!\nBitte Schreibschutz überprüfen und ggf. rücksetzen!"_s);
+}
+
+bool UpdateQTHFile(QWidget* parent, app::AppState& state, UserDialogs& dialogs)
+{
+    const std::string& name = state.configuration.workingFile;
+    const std::error_code error =
+        stations::UpdateQTHFile(name, state.database, state.session.workingFileBytes);
+    TellWriteError(parent, dialogs, error, name);
+    return !error;
+}
+
+void TellTooManyRecords(QWidget* parent, UserDialogs& dialogs)
+{
+    dialogs.Inform(parent, {},
+                   u"Fehler: Zu viele Datensätze. Diese Version kann leider nur maximal 25000 "
+                   u"Datensätze bearbeiten"_s);
+}
+
+bool AppendRecord(QWidget* parent, app::AppState& state, UserDialogs& dialogs,
+                  const stations::StationRecord& record)
+{
+    const bool appended = state.database.Append(record);
+    if (!appended) {
+        TellTooManyRecords(parent, dialogs);
+    }
+    return appended;
+}
+
+}  // namespace ui

@@ -1,0 +1,30 @@
+// Changes of the station database that tell the user when they fail.
+
+#pragma once
+
+#include <string>
+#include <system_error>
+
+#include "app/AppState.h"
+
+class QWidget;
+
+namespace ui {
+
+class UserDialogs;
+
+// The message about a file that could not be written; nothing without an error.
+void TellWriteError(QWidget* parent, UserDialogs& dialogs, std::error_code error,
+                    const std::string& fileName);
+
+// Rewrites the working file. The database in memory stays as it is when that fails.
+bool UpdateQTHFile(QWidget* parent, app::AppState& state, UserDialogs& dialogs);
+
+// Says that the database holds all the records it can.
+void TellTooManyRecords(QWidget* parent, UserDialogs& dialogs);
+
+// Appends a record, or says why not.
+bool AppendRecord(QWidget* parent, app::AppState& state, UserDialogs& dialogs,
+                  const stations::StationRecord& record);
+
+}  // namespace ui

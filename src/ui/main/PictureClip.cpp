@@ -1,0 +1,89 @@
+#include "ui/main/PictureClip.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QPalette>
+
+namespace ui {
+
+namespace {
+
+constexpr int kUnits = 16;      // a piece is drawn on a square of 16 units
+constexpr int kPieceSize = 64;  // pixels of a piece: sharp up to four times its usual size
+
+void DrawArrow(QPainter& painter, QPointF from, QPointF to)
+{
+    constexpr qreal kHead = 3.0;
+    const QPointF along = (to - from) / QLineF(from, to).length() * kHead;
+    const QPointF across(-along.y(), along.x());
+    painter.drawLine(from, to);
+    painter.drawLine(to, to - along + across);
+    painter.drawLine(to, to - along - across);
+}
+
+void DrawPiece(QPainter& painter, PictureClip::Piece piece)
+{
+    switch (piece) {
+    case PictureClip::kLoad:  // an arrow out of a list
+        painter.drawLines({QLineF(2, 4, 7, 4), QLineF(2, 8, 5, 8), QLineF(2, 12, 7, 12)});
+        DrawArrow(painter, {7, 8}, {14, 8});
+        break;
+    case PictureClip::kRemove:
+        painter.drawLines({QLineF(3, 3, 13, 13), QLineF(13, 3, 3, 13)});
+        break;
+    case PictureClip::kSave:  // an arrow onto a tray
+        DrawArrow(painter, {8, 2}, {8, 10});
+        painter.drawPolyline(QPolygonF({{2, 10}, {2, 14}, {14, 14}, {14, 10}}));
+        break;
+    case PictureClip::kMap:  // rings and a cross
+        painter.drawEllipse(QPointF(8, 8), 6, 6);
+        painter.drawEllipse(QPointF(8, 8), 2.5, 2.5);
+        painter.drawLines({QLineF(8, 1, 8, 15), QLineF(1, 8, 15, 8)});
+        break;
+    case PictureClip::kSort:
+        painter.drawLines({QLineF(2, 4, 5, 4), QLineF(2, 8, 7, 8), QLineF(2, 12, 9, 12)});
+        DrawArrow(painter, {12, 3}, {12, 13});
+        break;
+    case PictureClip::kMoveOut:  // an arrow out of a box
+        painter.drawPolyline(QPolygonF({{8, 3}, {2, 3}, {2, 13}, {8, 13}}));
+        DrawArrow(painter, {6, 8}, {14, 8});
+        break;
+    case PictureClip::kClose: painter.drawLine(3, 13, 13, 13); break;
+    case PictureClip::kPieces: break;
+    }
+}
+
+QPixmap NewPicture(const QColor& colour)
+{
+    QPixmap picture(PictureClip::kPieces * kPieceSize, kPieceSize);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(colour, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.scale(static_cast<qreal>(kPieceSize) / kUnits, static_cast<qreal>(kPieceSize) / kUnits);
+    for (int piece = 0; piece < PictureClip::kPieces; ++piece) {
+        DrawPiece(painter, static_cast<PictureClip::Piece>(piece));
+        painter.translate(kUnits, 0);
+    }
+    return picture;
+}
+
+}  // namespace
+
+PictureClip::PictureClip(QObject* parent) : QObject(parent) {}
+
+void PictureClip::Draw(const QPalette& palette)
+{
+    picture_ = NewPicture(palette.color(QPalette::Active, QPalette::ButtonText));
+    disabledPicture_ = NewPicture(palette.color(QPalette::Disabled, QPalette::ButtonText));
+}
+
+QIcon PictureClip::Icon(Piece piece) const
+{
+    const QRect clip(piece * kPieceSize, 0, kPieceSize, kPieceSize);
+    QIcon icon(picture_.copy(clip));
+    icon.addPixmap(disabledPicture_.copy(clip), QIcon::Disabled);
+    return icon;
+}
+
+}  // namespace ui

@@ -1,0 +1,31 @@
+// One picture cut into pieces: the pictures of the buttons.
+
+#pragma once
+
+#include <QIcon>
+#include <QObject>
+#include <QPixmap>
+
+class QPalette;
+
+namespace ui {
+
+class PictureClip : public QObject {
+    Q_OBJECT
+
+public:
+    enum Piece { kLoad, kRemove, kSave, kMap, kSort, kMoveOut, kClose, kPieces };
+
+    explicit PictureClip(QObject* parent = nullptr);
+
+    // Draws the picture anew in the colours of the palette, so that it reads on light and on dark.
+    void Draw(const QPalette& palette);
+
+    QIcon Icon(Piece piece) const;
+
+private:
+    QPixmap picture_;          // the pieces side by side
+    QPixmap disabledPicture_;  // the same for buttons that are switched off
+};
+
+}  // namespace ui

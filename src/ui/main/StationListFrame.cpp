@@ -1,0 +1,137 @@
+#include "ui/main/StationListFrame.h"
+
+#include <optional>
+#include <utility>
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "stations/Sorting.h"
+#include "ui/Controls.h"
+#include "ui/DatabaseActions.h"
+#include "ui/main/StationListModel.h"
+#include "ui/main/StationListView.h"
+
+namespace ui {
+
+using namespace Qt::StringLiterals;
+
+StationListFrame::StationListFrame(app::AppState& state, UserDialogs& dialogs, QWidget* parent)
+    : QGroupBox(u"List"_s, parent), state_(state), dialogs_(dialogs),
+      model_(new StationListModel(state.database, state.numberFormat, this))
+{
+    setObjectName(u"Frame1"_s);
+    List1 = Named(new StationListView(this), u"List1"_s);
+    List1->setAccessibleName(u"Stationsliste"_s);
+    List1->setModel(model_);
+    Command3 = NewButton(u"Command3"_s, u"Sortieren"_s);
+    SortCombo = Named(new QComboBox(this), u"SortCombo"_s);
+    SortCombo->setAccessibleName(u"Sortierschlüssel"_s);
+    for (const char* const entry : stations::kSortEntries) {
+        SortCombo->addItem(QString::fromUtf8(entry));
+    }
+    SortCombo->setMaxVisibleItems(SortCombo->count());
+    SortCombo->setEnabled(false);
+    Command7 = NewButton(u"Command7"_s, u"Sichern"_s);
+    Command6 = NewButton(u"Command6"_s, u"Auslagern"_s);
+    Command2 = NewButton(u"Command2"_s, u"schliessen"_s);
+
+    auto* const column = new QVBoxLayout(this);
+    column->addWidget(List1, 1);
+    auto* const line = new QHBoxLayout;
+    column->addLayout(line);
+    line->addWidget(Command3);
+    line->addWidget(SortCombo);
+    line->addStretch();
+    line->addWidget(Command7);
+    line->addWidget(Command6);
+    line->addWidget(Command2);
+
+    connect(Command2, &QPushButton::clicked, this, &StationListFrame::Close);
+    connect(List1, &StationListView::EscapePressed, this, &StationListFrame::Close);
+    connect(Command3, &QPushButton::clicked, this, [this] {
+        SortCombo->setEnabled(true);
+        SortCombo->setFocus();
+    });
+    connect(SortCombo, &QComboBox::activated, this, &StationListFrame::SortChosen);
+    connect(List1, &StationListView::LineMarked, this, [this] {
+        Command6->setEnabled(true);
+        Command7->setEnabled(true);
+    });
+}
+
+QPushButton* StationListFrame::NewButton(const QString& name, const QString& text)
+{
+    auto* const button = Named(new QPushButton(text, this), name);
+    button->setAutoDefault(false);
+    return button;
+}
+
+void StationListFrame::List1Load()
+{
+    FillList({});
+}
+
+void StationListFrame::List1Check()
+{
+    if (static_cast<std::size_t>(model_->rowCount()) != state_.database.Count()) {
+        List1Load();
+    }
+}
+
+void StationListFrame::FillList(std::vector<double> keyValues)
+{
+    model_->Fill(state_.list.key, std::move(keyValues));
+    List1->SetLongestLine(model_->LongestLine());
+    Command6->setEnabled(false);
+    Command7->setEnabled(false);
+}
+
+void StationListFrame::Open(app::ListMode mode, int targetPanel)
+{
+    List1Load();
+    const QString station = QString::number(targetPanel + 1);
+    setTitle(mode == app::ListMode::Get ? u"Station "_s + station + u" Laden"_s
+                                        : u"remove => Station "_s + station);
+    state_.list.mode = mode;
+    state_.list.targetPanel = targetPanel;
+    show();
+    List1->setFocus();
+}
+
+void StationListFrame::Close()
+{
+    state_.list.mode = app::ListMode::Nop;
+    hide();
+}
+
+void StationListFrame::ResetSortCombo()
+{
+    SortCombo->setEnabled(false);
+    SortCombo->setCurrentIndex(0);
+}
+
+void StationListFrame::SortChosen(int entry)
+{
+    const std::optional<stations::ListKey> key = stations::KeyOfSortEntry(entry);
+    if (key) {
+        state_.list.key = *key;
+        std::vector<double> keyValues =
+            stations::KeyValues(state_.database, *key, state_.shown.position[0]);
+        if (!state_.database.Empty()) {
+            stations::Sort(state_.database, *key, state_.list.order, keyValues);
+            FillList(std::move(keyValues));
+            UpdateQTHFile(this, state_, dialogs_);
+            emit DatabaseChanged();
+        }
+    }
+    ResetSortCombo();
+    // A later fill must not show distances that are no longer true.
+    if (stations::HasKeyValues(state_.list.key)) {
+        state_.list.key = stations::ListKey::Callsign;
+    }
+}
+
+}  // namespace ui

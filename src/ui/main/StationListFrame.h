@@ -1,0 +1,60 @@
+// The frame of the station list: the list, its sort selector and its buttons.
+
+#pragma once
+
+#include <vector>
+
+#include <QGroupBox>
+
+#include "app/AppState.h"
+
+class QComboBox;
+class QPushButton;
+
+namespace ui {
+
+class StationListModel;
+class StationListView;
+class UserDialogs;
+
+class StationListFrame : public QGroupBox {
+    Q_OBJECT
+
+public:
+    StationListFrame(app::AppState& state, UserDialogs& dialogs, QWidget* parent = nullptr);
+
+    // Fills the list: line k is record k. No line is marked afterwards.
+    void List1Load();
+    // Fills the list when it has more or fewer lines than there are records.
+    void List1Check();
+
+    // Shows the frame, filled, for a panel: a click on a line will then load (Get) or delete
+    // (Clear).
+    void Open(app::ListMode mode, int targetPanel);
+    // Ends the list mode and hides the frame.
+    void Close();
+
+    // Switches the sort selector off and back to its first entry.
+    void ResetSortCombo();
+
+    StationListView* List1;
+    QComboBox* SortCombo;
+    QPushButton* Command2;  // "schliessen"
+    QPushButton* Command3;  // "Sortieren": switches the sort selector on
+    QPushButton* Command6;  // "Auslagern": move the marked entries out to a file
+    QPushButton* Command7;  // "Sichern": save the marked entries to a file
+
+signals:
+    void DatabaseChanged();
+
+private:
+    QPushButton* NewButton(const QString& name, const QString& text);
+    void FillList(std::vector<double> keyValues);
+    void SortChosen(int entry);
+
+    app::AppState& state_;
+    UserDialogs& dialogs_;
+    StationListModel* model_;
+};
+
+}  // namespace ui

@@ -1,0 +1,115 @@
+#include "ui/main/StationListView.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QStyledItemDelegate>
+
+namespace ui {
+
+// Gives every line the same size without looking at it.
+class StationListView::OneSize : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& /*option*/,
+                   const QModelIndex& /*index*/) const override
+    {
+        return size;
+    }
+
+    QSize size;
+};
+
+StationListView::StationListView(QWidget* parent) : QListView(parent), size_(new OneSize(this))
+{
+    setSelectionMode(ExtendedSelection);
+    setUniformItemSizes(true);
+    setItemDelegate(size_);
+    SetLongestLine({});
+}
+
+void StationListView::SetLongestLine(const QString& line)
+{
+    constexpr int kMargin = 4;        // around a line
+    constexpr int kSpareDigits = 10;  // a number in front may be longer in another line
+    const int digit = fontMetrics().horizontalAdvance(u'0');
+    size_->size = {fontMetrics().horizontalAdvance(line) + kSpareDigits * digit + 2 * kMargin,
+                   fontMetrics().height() + kMargin};
+    scheduleDelayedItemsLayout();
+}
+
+bool StationListView::IsMarked(std::size_t row) const
+{
+    if (!marks_ && selectionModel() != nullptr) {
+        marks_.emplace(static_cast<std::size_t>(model()->rowCount()), false);
+        for (const QItemSelectionRange& range : selectionModel()->selection()) {
+            for (int line = range.top(); line <= range.bottom(); ++line) {
+                (*marks_)[static_cast<std::size_t>(line)] = true;
+            }
+        }
+    }
+    return marks_ && row < marks_->size() && (*marks_)[row];
+}
+
+void StationListView::reset()
+{
+    QListView::reset();
+    marks_.reset();
+}
+
+void StationListView::selectionChanged(const QItemSelection& selected,
+                                       const QItemSelection& deselected)
+{
+    QListView::selectionChanged(selected, deselected);
+    marks_.reset();
+    if (!selected.isEmpty()) {
+        emit LineMarked();
+    }
+}
+
+void StationListView::mousePressEvent(QMouseEvent* event)
+{
+    const bool plain = event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier;
+    const QModelIndex pressed = indexAt(event->position().toPoint());
+    pressedRow_ = plain && pressed.isValid() ? pressed.row() : -1;
+    QListView::mousePressEvent(event);
+}
+
+void StationListView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    // The first click has done its work, and the list may be another by now.
+    pressedRow_ = -1;
+    QListView::mouseDoubleClickEvent(event);
+}
+
+void StationListView::mouseMoveEvent(QMouseEvent* event)
+{
+    if (indexAt(event->position().toPoint()).row() != pressedRow_) {
+        pressedRow_ = -1;  // dragged away: marks lines, chooses none
+    }
+    QListView::mouseMoveEvent(event);
+}
+
+void StationListView::mouseReleaseEvent(QMouseEvent* event)
+{
+    QListView::mouseReleaseEvent(event);
+    const int row = pressedRow_;
+    pressedRow_ = -1;
+    if (row >= 0 && indexAt(event->position().toPoint()).row() == row) {
+        emit LineChosen(row);
+    }
+}
+
+void StationListView::keyPressEvent(QKeyEvent* event)
+{
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (event->key() == Qt::Key_Escape) {
+        emit EscapePressed();
+    } else if (enter && currentIndex().isValid()) {
+        emit LineChosen(currentIndex().row());
+    } else {
+        QListView::keyPressEvent(event);
+    }
+}
+
+}  // namespace ui
