@@ -18,6 +18,8 @@
 #include "ui/main/CfgForm.h"
 #include "ui/main/CoordinateFields.h"
 #include "ui/main/Display.h"
+#include "ui/main/EditCommands.h"
+#include "ui/main/FileCommands.h"
 #include "ui/main/FormHeadings.h"
 #include "ui/main/PictureClip.h"
 #include "ui/main/ResultBlock.h"
@@ -50,16 +52,26 @@ MainForm::MainForm(app::AppState& state, UserDialogs& dialogs)
     fields_ = new CoordinateFields(state_, panel_, *headings_, *result_, this);
     configuration_ = new CfgForm(state_, this);
     notice_ = new Display(this);
+    files_ = std::make_unique<FileCommands>(*this, state_, dialogs_, *list_, *notice_);
+    edits_ = std::make_unique<EditCommands>(state_, *this, *list_);
     ConnectPanels();
     connect(fields_, &CoordinateFields::StationsChanged, this, &MainForm::Changed);
     connect(list_, &StationListFrame::DatabaseChanged, this, &MainForm::Changed);
     connect(list_->List1, &StationListView::LineChosen, this, &MainForm::TakeLine);
+    connect(list_->Command7, &QPushButton::clicked, this, [this] { files_->SaveMarked(); });
+    connect(list_->Command6, &QPushButton::clicked, this, [this] {
+        if (files_->MoveOutMarked()) {
+            emit Changed();
+        }
+    });
     connect(result_->Command5, &QPushButton::clicked, this, &MainForm::ShowMap);
     connect(configuration_, &CfgForm::Confirmed, this, &MainForm::TakeConfiguration);
     DrawPictures();
     list_->Close();
     panel_[0]->Text1->setFocus();
 }
+
+MainForm::~MainForm() = default;
 
 QWidget* MainForm::NewContents()
 {
@@ -214,11 +226,6 @@ void MainForm::SavePanel(int station)
         notice_->ShowMessage(u"Eintrag gespeichert!"_s);
     }
     emit Changed();
-}
-
-void MainForm::ShowConfiguration()
-{
-    configuration_->Open();
 }
 
 void MainForm::TakeConfiguration()

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <array>
+#include <memory>
 
 #include <QMainWindow>
 
@@ -15,6 +16,8 @@ namespace ui {
 class CfgForm;
 class CoordinateFields;
 class Display;
+class EditCommands;
+class FileCommands;
 class FormHeadings;
 class PictureClip;
 class ResultBlock;
@@ -27,6 +30,7 @@ class MainForm : public QMainWindow, public app::MainWindowPort {
 
 public:
     MainForm(app::AppState& state, UserDialogs& dialogs);
+    ~MainForm() override;
 
     // Loads configuration and database and fills the window. False when the user, asked about a
     // file that cannot be read, wants the program to end; nothing more is written then.
@@ -63,10 +67,8 @@ private:
     stations::StationRecord NewRecord(int station) const;
     void TakeLine(int row);
     void SavePanel(int station);
-    void ShowConfiguration();
     void TakeConfiguration();
     void ShowMap();
-    void Exit();
     void ShowHelp();
     void ShowVersions();
 
@@ -80,6 +82,8 @@ private:
     CoordinateFields* fields_ = nullptr;
     CfgForm* configuration_ = nullptr;
     Display* notice_ = nullptr;
+    std::unique_ptr<FileCommands> files_;
+    std::unique_ptr<EditCommands> edits_;
 };
 
 }  // namespace ui

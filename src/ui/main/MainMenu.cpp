@@ -1,5 +1,7 @@
 // The menus of the main window as tables, and the commands that only show something.
 
+#include <functional>
+
 #include <QAction>
 #include <QFileInfo>
 #include <QMenu>
@@ -8,43 +10,67 @@
 
 #include "ui/Controls.h"
 #include "ui/UserDialogs.h"
+#include "ui/main/CfgForm.h"
+#include "ui/main/EditCommands.h"
+#include "ui/main/FileCommands.h"
 #include "ui/main/MainForm.h"
 
 namespace ui {
 
 using namespace Qt::StringLiterals;
 
-// A menu item; one without a name is a separator, one without a command is switched off.
+// A menu item; one without a name is a separator.
 struct MainForm::MenuItem {
     const char* name = nullptr;
     QString caption;
-    void (MainForm::*command)() = nullptr;
+    std::function<void()> command;
 };
 
 void MainForm::AddMenus()
 {
+    // Tells an open map when a command has changed the database.
+    const auto telling = [this](bool (FileCommands::*command)()) {
+        return [this, command] {
+            if ((files_.get()->*command)()) {
+                emit Changed();
+            }
+        };
+    };
+    const auto marking = [this](stations::Equality equality) {
+        return [this, equality] {
+            edits_->MarkEqual(equality);
+            emit Changed();
+        };
+    };
     AddMenu(u"Datei"_s, {
-                            {"MnuOpen", u"Öffnen"_s},
-                            {"MnuAppend", u"Anfügen"_s},
+                            {"MnuOpen", u"Öffnen"_s, telling(&FileCommands::Open)},
+                            {"MnuAppend", u"Anfügen"_s, telling(&FileCommands::Append)},
                             {},
-                            {"MnuConfig", u"Konfiguration"_s, &MainForm::ShowConfiguration},
+                            {"MnuConfig", u"Konfiguration"_s, [this] { configuration_->Open(); }},
                             {},
-                            {"MnuList", u"Listing"_s},
+                            {"MnuList", u"Listing"_s, [this] { files_->WriteListing(); }},
                             {},
-                            {"MnuTest", u"Test"_s},
-                            {"MnuExit", u"Beenden"_s, &MainForm::Exit},
+                            {"MnuTest", u"Test"_s, telling(&FileCommands::ImportText)},
+                            {"MnuExit", u"Beenden"_s, [this] { close(); }},
                         });
-    AddMenu(u"Bearbeiten"_s, {
-                                 {"MnuGEE", u"gleiche Einträge entfernen"_s},
-                                 {"MnuDopMark", u"doppelte Einträge markieren"_s},
-                                 {"MnuGlPMark", u"gleiche Positionen markieren"_s},
-                                 {},
-                                 {"MnuMiWert", u"S1 = Mittelwert markierte Stationen"_s},
-                             });
-    AddMenu(u"Ansicht"_s, {{"MnuKarte", u"Karte"_s, &MainForm::ShowMap}});
+    AddMenu(u"Bearbeiten"_s,
+            {
+                {"MnuGEE", u"gleiche Einträge entfernen"_s,
+                 [this] {
+                     edits_->RemoveEqualEntries();
+                     emit Changed();
+                 }},
+                {"MnuDopMark", u"doppelte Einträge markieren"_s, marking(stations::Equality::Full)},
+                {"MnuGlPMark", u"gleiche Positionen markieren"_s,
+                 marking(stations::Equality::Position)},
+                {},
+                {"MnuMiWert", u"S1 = Mittelwert markierte Stationen"_s,
+                 [this] { edits_->SetStation1ToMean(); }},
+            });
+    AddMenu(u"Ansicht"_s, {{"MnuKarte", u"Karte"_s, [this] { ShowMap(); }}});
     AddMenu(u"Hilfe"_s, {
-                            {"MnuFaq", u"FAQ"_s, &MainForm::ShowHelp},
-                            {"MnuVers", u"Versionen"_s, &MainForm::ShowVersions},
+                            {"MnuFaq", u"FAQ"_s, [this] { ShowHelp(); }},
+                            {"MnuVers", u"Versionen"_s, [this] { ShowVersions(); }},
                         });
 }
 
@@ -57,16 +83,8 @@ void MainForm::AddMenu(const QString& title, std::initializer_list<MenuItem> ite
             continue;
         }
         QAction* const action = Named(menu->addAction(item.caption), QLatin1StringView(item.name));
-        action->setEnabled(item.command != nullptr);
-        if (item.command != nullptr) {
-            connect(action, &QAction::triggered, this, item.command);
-        }
+        connect(action, &QAction::triggered, this, item.command);
     }
-}
-
-void MainForm::Exit()
-{
-    close();
 }
 
 void MainForm::ShowHelp()

@@ -101,6 +101,15 @@ void StationListFrame::Open(app::ListMode mode, int targetPanel)
     List1->setFocus();
 }
 
+void StationListFrame::ShowMarks(const std::vector<std::size_t>& rows)
+{
+    if (state_.list.mode == app::ListMode::Nop) {
+        setTitle(u"List"_s);
+    }
+    show();
+    List1->MarkRows(rows);
+}
+
 void StationListFrame::Close()
 {
     state_.list.mode = app::ListMode::Nop;

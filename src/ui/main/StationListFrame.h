@@ -31,6 +31,8 @@ public:
     // Shows the frame, filled, for a panel: a click on a line will then load (Get) or delete
     // (Clear).
     void Open(app::ListMode mode, int targetPanel);
+    // Marks exactly these lines, in ascending order, and shows the frame so that they can be seen.
+    void ShowMarks(const std::vector<std::size_t>& rows);
     // Ends the list mode and hides the frame.
     void Close();
 

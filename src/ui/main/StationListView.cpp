@@ -51,6 +51,39 @@ bool StationListView::IsMarked(std::size_t row) const
     return marks_ && row < marks_->size() && (*marks_)[row];
 }
 
+std::vector<std::size_t> StationListView::MarkedRows() const
+{
+    std::vector<std::size_t> rows;
+    const auto lines = static_cast<std::size_t>(model()->rowCount());
+    for (std::size_t row = 0; row < lines; ++row) {
+        if (IsMarked(row)) {
+            rows.push_back(row);
+        }
+    }
+    return rows;
+}
+
+void StationListView::MarkRows(const std::vector<std::size_t>& rows)
+{
+    QItemSelection selection;
+    for (std::size_t i = 0; i < rows.size();) {
+        // Neighbours make one range: the list box is slow with many.
+        std::size_t last = i;
+        while (last + 1 < rows.size() && rows[last + 1] == rows[last] + 1) {
+            ++last;
+        }
+        selection.append(QItemSelectionRange(model()->index(static_cast<int>(rows[i]), 0),
+                                             model()->index(static_cast<int>(rows[last]), 0)));
+        i = last + 1;
+    }
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    if (!rows.empty()) {
+        const QModelIndex first = model()->index(static_cast<int>(rows.front()), 0);
+        selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+        scrollTo(first, PositionAtTop);
+    }
+}
+
 void StationListView::reset()
 {
     QListView::reset();

@@ -24,6 +24,12 @@ public:
     // True when line `row` is marked. Cheap for every line of a list in turn.
     bool IsMarked(std::size_t row) const;
 
+    // Indexes of the marked lines, ascending.
+    std::vector<std::size_t> MarkedRows() const;
+
+    // Marks exactly these lines, given in ascending order, and scrolls to the first.
+    void MarkRows(const std::vector<std::size_t>& rows);
+
     void reset() override;
 
 signals:

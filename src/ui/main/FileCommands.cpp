@@ -1,0 +1,221 @@
+#include "ui/main/FileCommands.h"
+
+#include <ctime>
+#include <vector>
+
+#include <QFile>
+
+#include "app/StartUp.h"
+#include "base/FileBytes.h"
+#include "base/TimeStamp.h"
+#include "stations/Listing.h"
+#include "stations/TextImport.h"
+#include "ui/DatabaseActions.h"
+#include "ui/UserDialogs.h"
+#include "ui/main/Display.h"
+#include "ui/main/StationListFrame.h"
+#include "ui/main/StationListView.h"
+
+namespace ui {
+
+using namespace Qt::StringLiterals;
+using stations::ExchangeResult;
+
+namespace {
+
+// "QHT" is how the label is spelt.
+const auto kDatabaseFilter = u"QHT-Dateien (*.qth)|*.QTH|alle Dateien (*.*)|*.*"_s;
+const auto kListingFilter = u"LST-Dateien (*.lst;*.txt)|*.lst;*.txt|alle Dateien (*.*)|*.*"_s;
+const auto kTextFilter = u"TXT-Dateien (*.txt)|*.txt|alle Dateien (*.*)|*.*"_s;
+
+std::string Native(const QString& file)
+{
+    return QFile::encodeName(file).toStdString();
+}
+
+QString ReasonText(stations::SkipReason reason)
+{
+    switch (reason) {
+    case stations::SkipReason::NoText: return u"kein Text"_s;
+    case stations::SkipReason::NoPosition: return u"keine zwei Zahlen"_s;
+    case stations::SkipReason::LatitudeOutOfRange: return u"Breite über 90 Grad"_s;
+    case stations::SkipReason::LongitudeOutOfRange: return u"Länge über 360 Grad"_s;
+    }
+    return {};
+}
+
+QString SkippedText(const stations::ImportResult& result)
+{
+    QString text = result.skipped == 1 ? u"1 Zeile wurde übersprungen:"_s
+                                       : u"%1 Zeilen wurden übersprungen:"_s.arg(result.skipped);
+    for (const stations::SkippedLine& line : result.firstSkipped) {
+        text += u"\nZeile %1: %2"_s.arg(line.number).arg(ReasonText(line.reason));
+    }
+    if (result.skipped > result.firstSkipped.size()) {
+        text += u"\n..."_s;
+    }
+    return text;
+}
+
+}  // namespace
+
+FileCommands::FileCommands(QWidget& window, app::AppState& state, UserDialogs& dialogs,
+                           StationListFrame& list, Display& notice)
+    : window_(window), state_(state), dialogs_(dialogs), list_(list), notice_(notice)
+{
+}
+
+bool FileCommands::Open()
+{
+    const QString file = dialogs_.OpenFile(
+        &window_, {.title = u"QTH Datenbank öffnen"_s, .filter = kDatabaseFilter, .folder = {}});
+    if (file.isEmpty()) {
+        return false;
+    }
+    const ExchangeResult result =
+        stations::Open(Native(file), {.database = state_.database,
+                                      .workingFile = state_.configuration.workingFile,
+                                      .oldBytes = state_.session.workingFileBytes});
+    if (result == ExchangeResult::Done) {
+        list_.List1Load();
+    }
+    Tell(result, file);
+    return result == ExchangeResult::Done;
+}
+
+bool FileCommands::Append()
+{
+    const QString file = dialogs_.OpenFile(
+        &window_, {.title = u"QTH Datenbank anfügen"_s, .filter = kDatabaseFilter, .folder = {}});
+    if (file.isEmpty()) {
+        return false;
+    }
+    const ExchangeResult result = stations::AppendFile(Native(file), state_.database);
+    if (result == ExchangeResult::Done) {
+        list_.List1Load();
+        UpdateQTHFile(&window_, state_, dialogs_);
+    }
+    Tell(result, file);
+    return result == ExchangeResult::Done;
+}
+
+void FileCommands::SaveMarked()
+{
+    ExportMarked(list_.List1->MarkedRows());
+}
+
+bool FileCommands::MoveOutMarked()
+{
+    const std::vector<std::size_t> marked = list_.List1->MarkedRows();
+    if (!ExportMarked(marked) || marked.empty()) {
+        return false;
+    }
+    state_.database.Delete(marked);
+    list_.List1Load();
+    UpdateQTHFile(&window_, state_, dialogs_);
+    return true;
+}
+
+bool FileCommands::ExportMarked(const std::vector<std::size_t>& marked)
+{
+    const QString file = dialogs_.SaveFile(
+        &window_,
+        {.title = u"Ausgewählte Einträge sichern"_s, .filter = kDatabaseFilter, .folder = {}},
+        u"QTH"_s);
+    if (file.isEmpty()) {
+        return false;
+    }
+    const std::string name = stations::WithDatabaseEnding(Native(file));
+    if (!MayReplace(name)) {
+        return false;
+    }
+    const std::error_code error = stations::SaveMarked(name, state_.database, marked);
+    TellWriteError(&window_, dialogs_, error, name);
+    return !error;
+}
+
+void FileCommands::WriteListing()
+{
+    const QString file =
+        dialogs_.OpenOrCreateFile(&window_, {.title = {}, .filter = kListingFilter, .folder = {}});
+    if (file.isEmpty()) {
+        return;
+    }
+    const std::string name = Native(file);
+    if (!MayReplace(name)) {
+        return;
+    }
+    const std::string text =
+        stations::ListingText(state_.database.Records(),
+                              static_cast<stations::ListingMode>(state_.configuration.listingMode),
+                              state_.entry.degreeMinuteMode, state_.numberFormat);
+    const auto* const bytes = reinterpret_cast<const unsigned char*>(text.data());
+    TellWriteError(&window_, dialogs_, base::WriteFile(name, base::ByteView(bytes, text.size())),
+                   name);
+}
+
+bool FileCommands::ImportText()
+{
+    const QString file = dialogs_.OpenFile(
+        &window_,
+        {.title = u"Excel Textfile import (TEST)"_s, .filter = kTextFilter, .folder = {}});
+    if (file.isEmpty()) {
+        return false;
+    }
+    const base::FileContents contents = base::ReadFile(Native(file));
+    if (contents.status != base::FileStatus::Readable) {
+        Tell(ExchangeResult::Unreadable, file);
+        return false;
+    }
+    const stations::ImportResult result =
+        stations::ImportText(contents.bytes, base::TimeStamp(std::time(nullptr)), state_.database);
+    if (result.tooMany) {
+        TellTooManyRecords(&window_, dialogs_);
+        return false;
+    }
+    list_.List1Load();
+    if (UpdateQTHFile(&window_, state_, dialogs_)) {
+        notice_.ShowMessage(result.imported == 1
+                                ? u"1 Eintrag importiert!"_s
+                                : u"%1 Einträge importiert!"_s.arg(result.imported));
+    }
+    if (result.skipped > 0) {
+        dialogs_.Inform(&window_, {}, SkippedText(result));
+    }
+    return result.imported > 0;
+}
+
+bool FileCommands::MayReplace(const std::string& name)
+{
+    if (!stations::IsOwnFile(name, state_.configuration.workingFile, app::kConfigurationName)) {
+        return true;
+    }
+    dialogs_.Inform(&window_, {},
+                    u"Die Datei "_s + QFile::decodeName(QByteArray::fromStdString(name))
+                        + u" benutzt das Programm selbst, sie wird nicht überschrieben!"_s);
+    return false;
+}
+
+void FileCommands::Tell(ExchangeResult result, const QString& file)
+{
+    const QString name = u"Die Datei "_s + file;
+    switch (result) {
+    case ExchangeResult::Done:
+    case ExchangeResult::Ignored: break;
+    case ExchangeResult::Damaged:
+        dialogs_.Inform(&window_, {}, name + u" ist beschädigt und wird nicht gelesen!"_s);
+        break;
+    case ExchangeResult::Unreadable:
+        dialogs_.Inform(&window_, {}, name + u" lässt sich nicht lesen!"_s);
+        break;
+    case ExchangeResult::TooMany: TellTooManyRecords(&window_, dialogs_); break;
+    case ExchangeResult::NameTooLong:
+        dialogs_.Inform(&window_, {},
+                        name
+                            + u" lässt sich nicht als Arbeitsdatei merken: Der Name ist länger "
+                              u"als 512 Zeichen oder endet mit einem Leerzeichen!"_s);
+        break;
+    }
+}
+
+}  // namespace ui

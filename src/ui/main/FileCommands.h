@@ -1,0 +1,47 @@
+// The commands that move records between the database and other files.
+
+#pragma once
+
+#include <string>
+
+#include <QString>
+
+#include "app/AppState.h"
+#include "stations/Exchange.h"
+
+class QWidget;
+
+namespace ui {
+
+class Display;
+class StationListFrame;
+class UserDialogs;
+
+// Cancelling a file dialog ends each of them without a word. True when the database has changed.
+class FileCommands {
+public:
+    FileCommands(QWidget& window, app::AppState& state, UserDialogs& dialogs,
+                 StationListFrame& list, Display& notice);
+
+    bool Open();           // MnuOpen: another database file becomes the working file
+    bool Append();         // MnuAppend: its records come behind those of the database
+    void SaveMarked();     // Command7
+    bool MoveOutMarked();  // Command6: like SaveMarked, then the marked records are removed
+    void WriteListing();   // MnuList
+    bool ImportText();     // MnuTest
+
+private:
+    // Writes the marked records to a file that the user chooses; false when that was not done.
+    bool ExportMarked(const std::vector<std::size_t>& marked);
+    // False, with a message, for a file that the program keeps itself.
+    bool MayReplace(const std::string& name);
+    void Tell(stations::ExchangeResult result, const QString& file);
+
+    QWidget& window_;
+    app::AppState& state_;
+    UserDialogs& dialogs_;
+    StationListFrame& list_;
+    Display& notice_;
+};
+
+}  // namespace ui
