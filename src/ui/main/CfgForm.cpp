@@ -69,7 +69,9 @@ CfgForm::CfgForm(app::AppState& state, QWidget* parent) : QDialog(parent), state
     Command2 = Named(new QPushButton(u"abbrechen"_s), u"Command2"_s);
 
     auto* const grid = new QGridLayout(this);
-    grid->addWidget(NewFrame(u"Frame1"_s, u"Grad-Format"_s, {Option1, Option2}), 0, 0);
+    QGroupBox* const degreeFormat = NewFrame(u"Frame1"_s, u"Grad-Format"_s, {Option1, Option2});
+    degreeFormat->setToolTip(u"Umgeschaltet wird im Hauptfenster"_s);
+    grid->addWidget(degreeFormat, 0, 0);
     grid->addWidget(NewFrame(u"Frame2"_s, u"Gauss Krüger Normierung"_s, {Option3, Option4}), 1, 0);
     grid->addWidget(
         NewFrame(u"Frame3"_s, u"Listing"_s, {Option5[0], Option5[1], Option5[2], Option5[3]}), 0, 1,
