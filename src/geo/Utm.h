@@ -16,8 +16,8 @@ struct UtmPosition {
     double northing = 0.0;  // m
 };
 
-// Within 1 mm in the zone, up to the poles. Not finite far outside the globe and for positions that
-// are not; the zone is 0 when the longitude is not a number.
+// Within 1 mm in the zone between 80 S and 84 N; finite at the poles. Not finite far outside the
+// globe and for positions that are not; the zone is 0 when the longitude is not a number.
 UtmPosition GeoUTM(GeoPosition position);
 
 // The inverse. `zone` is taken as it was typed and need not be a whole number.
