@@ -6,14 +6,13 @@
 //
 // Bearing: in a frame whose axes at the start point are east, away from the earth and north, the
 // target's unit vector has the east component X = sin C cos B and, counted to the south,
-//   V = sin A cos B cos C - cos A sin B = sin(A - B) - sin A cos B (1 - cos C);
-// the raw bearing is the angle of (X, V). The second form of V is used because it keeps its sign
-// for two points of one meridian however close they are: due north and due south are exact, and
-// coincident points have X = V = 0.
+// V = sin A cos B cos C - cos A sin B; the raw bearing is the angle of (X, V).
 
 #include "geo/Distance.h"
 
+#include <array>
 #include <cmath>
+#include <cstddef>
 #include <numbers>
 
 #include "geo/Radians.h"
@@ -26,6 +25,17 @@ namespace {
 // start point is within 0.97 degree of a pole, where the meridians are not parallel enough.
 constexpr double kPlanarHaversine = 5e-11;
 constexpr double kPlanarCosine = 0.017;
+
+// Degrees, modulo 360 into -180..180. Exact: one turn taken off a difference of up to one and a
+// half loses no digit.
+double ReducedDifference(double degrees)
+{
+    if (!(std::fabs(degrees) < 540.0)) {
+        return std::remainder(degrees, 360.0);
+    }
+    const int turns = static_cast<int>(degrees > 180.0) - static_cast<int>(degrees < -180.0);
+    return degrees - 360.0 * turns;
+}
 
 // Two points and what both formulas need of them.
 struct PointPair {
@@ -40,14 +50,11 @@ struct PointPair {
     double cosC;
 };
 
-PointPair MakePair(double startLatitude, double targetLatitude, double longitudeDifference)
+inline PointPair MakePair(double startLatitude, double targetLatitude, double longitudeDifference)
 {
-    const double reduced = std::fabs(longitudeDifference) <= 180.0
-                               ? longitudeDifference
-                               : std::remainder(longitudeDifference, 360.0);
     const double a = startLatitude * kRadiansPerDegree;
     const double b = targetLatitude * kRadiansPerDegree;
-    const double c = reduced * kRadiansPerDegree;
+    const double c = ReducedDifference(longitudeDifference) * kRadiansPerDegree;
     return {
         .a = a,
         .b = b,
@@ -61,7 +68,7 @@ PointPair MakePair(double startLatitude, double targetLatitude, double longitude
     };
 }
 
-double PairDistance(const PointPair& p)
+inline double PairDistance(const PointPair& p)
 {
     // The order of these operations decides on which side of the threshold a pair falls.
     const double h = (1.0 - p.cosA * p.cosB * p.cosC - p.sinA * p.sinB) / 2.0;
@@ -77,20 +84,34 @@ double PairDistance(const PointPair& p)
     if (h >= 1.0) {  // antipodes; by rounding h may be above 1
         return kEarthRadius * std::numbers::pi;
     }
-    return 2.0 * kEarthRadius * std::atan(std::sqrt(h) / std::sqrt(1.0 - h));
+    return 2.0 * kEarthRadius * std::atan(std::sqrt(h / (1.0 - h)));
 }
 
-double PairRawBearing(const PointPair& p)
+// On one meridian the general formula leaves the sign of V to rounding when the points are close.
+inline double MeridianRawBearing(const PointPair& p)
 {
-    // 0 is added to turn a negative zero positive: atan2(0, -0.0) would be half a turn.
-    const double x = p.sinC * p.cosB + 0.0;
-    const double v = std::sin(p.a - p.b) - p.sinA * p.cosB * (1.0 - p.cosC);
-    const double bearing = std::atan2(v, x) * kDegreesPerRadian;
-    if (bearing >= 0.0) {
-        return bearing;
+    const double south = std::sin(p.a - p.b);
+    if (south < 0.0) {
+        return 270.0;
     }
-    const double turned = bearing + 360.0;
-    return turned >= 360.0 ? 0.0 : turned;  // a hair north of east rounds to a full turn
+    return south > 0.0 ? 90.0 : south;  // 0 for coincident points, or not a number
+}
+
+inline double PairRawBearing(const PointPair& p)
+{
+    if (p.c == 0.0) {
+        return MeridianRawBearing(p);
+    }
+    const double x = p.sinC * p.cosB;
+    const double v = p.sinA * p.cosB * p.cosC - p.cosA * p.sinB;
+    const double quotient = x == 0.0 ? v * 1e40 : v / x;
+    // The arctangent covers the eastern half. What it lacks depends on whether the target lies west
+    // and whether it lies north; a table, because the four cases come in no order.
+    constexpr std::array<std::array<double, 2>, 2> kTurns = {{{0.0, 360.0}, {180.0, 180.0}}};
+    const auto west = static_cast<std::size_t>(x < 0.0);
+    const auto north = static_cast<std::size_t>(v < 0.0);
+    const double bearing = std::atan(quotient) * kDegreesPerRadian + kTurns[west][north];
+    return bearing >= 360.0 ? 0.0 : bearing;  // a hair north of east rounds to a full turn
 }
 
 }  // namespace

@@ -18,7 +18,7 @@
 
 #include "base/Rounding.h"
 #include "geo/Radians.h"
-#include "geo/SineSeries.h"
+#include "geo/Series.h"
 
 namespace geo {
 
@@ -35,8 +35,7 @@ constexpr std::array kArcTerms = {-15988.63853, 16.72995, -0.02178, 0.00003};
 // Inverse: length of the meridian quadrant, and the footpoint latitude in seconds of arc as a
 // series in powers of the share of it.
 constexpr double kQuadrant = 10000855.7646;
-constexpr double kFootpointFactor = 325632.08677;
-constexpr double kSecondsPerDegree = 3600.0;
+constexpr double kFootpointFactor = 325632.08677 / 3600.0 * kRadiansPerDegree;
 
 constexpr double kStripWidth = 3.0;  // degrees
 constexpr double kFalseEasting = 500000.0;
@@ -59,20 +58,10 @@ const GridPosition& DatumOffset(std::uint8_t datum)
 
 double FootpointLatitude(double northing)
 {
-    const double sigma = northing / kQuadrant;
-    const double s2 = sigma * sigma;
-    const double series =
-        1.0
-        + s2
-              * (-0.00831729565
-                 + s2
-                       * (0.00424914906
-                          + s2
-                                * (-0.00113566119
-                                   + s2
-                                         * (0.00022976983
-                                            + s2 * (-4.36398e-05 + s2 * 5.62025e-06)))));
-    return kFootpointFactor * sigma * series / kSecondsPerDegree * kRadiansPerDegree;
+    const double sigma = northing * (1.0 / kQuadrant);
+    return kFootpointFactor * sigma
+           * Polynomial(sigma * sigma, 1.0, -0.00831729565, 0.00424914906, -0.00113566119,
+                        0.00022976983, -4.36398e-05, 5.62025e-06);
 }
 
 }  // namespace
@@ -93,16 +82,19 @@ GridPosition GeoGk(GeoPosition position, std::uint8_t datum)
     const double longitude =
         position.longitude < kWesternEnd ? position.longitude + 360.0 : position.longitude;
     const double strip = std::floor((longitude + kStripWidth / 2.0) / kStripWidth);
-    const double m = (longitude - kStripWidth * strip) * cosine * kRadiansPerDegree;
+    const double m = (longitude - kStripWidth * strip) * kRadiansPerDegree * cosine;
     const double m2 = m * m;
 
-    const double northing = arc + n * t * m2 * (0.5 + m2 * (5.0 - t2 + 9.0 * eta2) / 24.0);
-    const double easting =
-        n * m * (1.0 + m2 * ((1.0 - t2 + eta2) / 6.0 + m2 * (5.0 - 18.0 * t2 * t2 * t2) / 120.0));
+    const double north4 = 5.0 - t2 + 9.0 * eta2;
+    const double north = n * t * m2 * Polynomial(m2, 1.0 / 2.0, north4 * (1.0 / 24.0));
+    const double east3 = 1.0 - t2 + eta2;
+    const double east5 = 5.0 - 18.0 * t2 * t2 * t2;
+    const double east = n * m * Polynomial(m2, 1.0, east3 * (1.0 / 6.0), east5 * (1.0 / 120.0));
+
     const GridPosition& offset = DatumOffset(datum);
     return {
-        .easting = easting + strip * kStripStep + kFalseEasting + offset.easting,
-        .northing = northing + offset.northing,
+        .easting = east + strip * kStripStep + kFalseEasting + offset.easting,
+        .northing = arc + north + offset.northing,
     };
 }
 
@@ -116,25 +108,23 @@ GeoPosition GkToGeo(GridPosition grid, std::uint8_t datum)
     const double footpoint = FootpointLatitude(grid.northing - offset.northing);
     const double sine = std::sin(footpoint);
     const double cosine = std::cos(footpoint);
-    const double eta2 = kEccentricity2 * cosine * cosine;
-    const double n = kPolarRadius / std::sqrt(1.0 + eta2);
-    const double t = sine / cosine;
+    const double secant = 1.0 / cosine;
+    const double t = sine * secant;
     const double t2 = t * t;
-    const double q = y / n;
+    const double eta2 = kEccentricity2 * cosine * cosine;
+    const double q = y * (1.0 / kPolarRadius) * std::sqrt(1.0 + eta2);  // y / n
     const double q2 = q * q;
 
-    const double latitude =
-        footpoint
-        - q2 * t
-              * ((1.0 + eta2) / 2.0 - q2 * (5.0 + 3.0 * t2 + 6.0 * eta2 - 6.0 * eta2 * t2) / 24.0);
-    const double p = q
-                     * (1.0
-                        - q2
-                              * ((1.0 + 2.0 * t2 + eta2) / 6.0
-                                 - q2 * (1.0 + 28.0 * t2 + 24.0 * t2 * t2) / 120.0));
+    const double north4 = 5.0 + 3.0 * t2 + 6.0 * eta2 - 6.0 * eta2 * t2;
+    const double north =
+        q2 * t * Polynomial(q2, (1.0 + eta2) * (1.0 / 2.0), north4 * (-1.0 / 24.0));
+    const double east3 = 1.0 + 2.0 * t2 + eta2;
+    const double east5 = 1.0 + 28.0 * t2 + 24.0 * t2 * t2;
+    const double east =
+        q * secant * Polynomial(q2, 1.0, east3 * (-1.0 / 6.0), east5 * (1.0 / 120.0));
     return {
-        .latitude = latitude * kDegreesPerRadian,
-        .longitude = p / cosine * kDegreesPerRadian + kStripWidth * strip,
+        .latitude = (footpoint - north) * kDegreesPerRadian,
+        .longitude = east * kDegreesPerRadian + kStripWidth * strip,
     };
 }
 

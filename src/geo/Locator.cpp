@@ -2,6 +2,8 @@
 
 #include <array>
 #include <cmath>
+#include <cstring>
+#include <limits>
 
 #include "base/Rounding.h"
 
@@ -14,9 +16,10 @@ constexpr std::size_t kLength = 6;
 // What stands in for a character that the text does not have; no value function accepts it.
 constexpr char kMissing = '\0';
 
+// Only letters become letters by this: the cases of ASCII differ in one bit.
 char UpperCase(char c)
 {
-    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+    return static_cast<char>(static_cast<unsigned char>(c) & 0xDFU);
 }
 
 std::int16_t LetterValue(char c, char zero)
@@ -39,6 +42,19 @@ std::int16_t SquareValue(char c)
 std::int16_t SubsquareValue(char c)
 {
     return LetterValue(c, 'A');
+}
+
+// True for every locator that is one: there bytes are characters.
+bool BeginsWithSixAscii(std::string_view text)
+{
+    if (text.size() < kLength) {
+        return false;
+    }
+    std::uint32_t first = 0;
+    std::uint32_t last = 0;
+    std::memcpy(&first, text.data(), sizeof first);
+    std::memcpy(&last, text.data() + kLength - sizeof last, sizeof last);
+    return ((first | last) & 0x80808080U) == 0;
 }
 
 // The first six characters of UTF-8 text. They are counted as characters, so that a stray umlaut
@@ -65,9 +81,24 @@ char CharacterAt(std::string_view locator, std::size_t pos)
     return pos < kLength ? FirstCharacters(locator)[pos] : kMissing;
 }
 
+// `c` has six characters at least.
+inline GeoPosition SubsquareCentre(std::string_view c)
+{
+    const int longitude = 20 * FieldValue(c[0]) + 2 * SquareValue(c[2]);
+    const int latitude = 10 * FieldValue(c[1]) + SquareValue(c[3]);
+    // In whole half subsquares, so that only the division rounds: the centre is the odd one.
+    return {
+        .latitude = (48 * latitude + 2 * SubsquareValue(c[5]) + 1) / 48.0,
+        .longitude = (24 * longitude + 2 * SubsquareValue(c[4]) + 1) / 24.0,
+    };
+}
+
+// Not by std::floor, which would wait for two more conversions.
 std::int16_t Floor(double value)
 {
-    return base::Saturate<std::int16_t>(std::floor(value));
+    const auto whole = base::Saturate<std::int16_t>(value);
+    const bool cutUp = whole > value && whole > std::numeric_limits<std::int16_t>::min();
+    return static_cast<std::int16_t>(whole - (cutUp ? 1 : 0));
 }
 
 char LocatorCharacter(std::int16_t value, char zero)
@@ -95,13 +126,11 @@ std::int16_t LocSuffVal(std::string_view locator, std::size_t pos)
 
 GeoPosition LocatorToPosition(std::string_view locator)
 {
-    const std::array<char, kLength> c = FirstCharacters(locator);
-    const int longitude = 20 * FieldValue(c[0]) + 2 * SquareValue(c[2]);
-    const int latitude = 10 * FieldValue(c[1]) + SquareValue(c[3]);
-    return {
-        .latitude = latitude + SubsquareValue(c[5]) / 24.0 + 1.0 / 48.0,
-        .longitude = longitude + SubsquareValue(c[4]) / 12.0 + 1.0 / 24.0,
-    };
+    if (BeginsWithSixAscii(locator)) {
+        return SubsquareCentre(locator);
+    }
+    const std::array<char, kLength> characters = FirstCharacters(locator);
+    return SubsquareCentre({characters.data(), characters.size()});
 }
 
 std::string PositionToLocator(double latitude, double longitude)
@@ -119,11 +148,14 @@ std::string PositionToLocator(double latitude, double longitude)
     const std::int16_t squareY = Floor(y);
     x -= 2.0 * squareX;
     y -= squareY;
-    return {
-        LocatorCharacter(fieldX, 'A'),          LocatorCharacter(fieldY, 'A'),
-        LocatorCharacter(squareX, '0'),         LocatorCharacter(squareY, '0'),
-        LocatorCharacter(Floor(x * 12.0), 'A'), LocatorCharacter(Floor(y * 24.0), 'A'),
-    };
+    std::string locator(kLength, '?');
+    locator[0] = LocatorCharacter(fieldX, 'A');
+    locator[1] = LocatorCharacter(fieldY, 'A');
+    locator[2] = LocatorCharacter(squareX, '0');
+    locator[3] = LocatorCharacter(squareY, '0');
+    locator[4] = LocatorCharacter(Floor(x * 12.0), 'A');
+    locator[5] = LocatorCharacter(Floor(y * 24.0), 'A');
+    return locator;
 }
 
 }  // namespace geo

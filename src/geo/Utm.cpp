@@ -14,7 +14,7 @@
 
 #include "base/Rounding.h"
 #include "geo/Radians.h"
-#include "geo/SineSeries.h"
+#include "geo/Series.h"
 
 namespace geo {
 
@@ -60,8 +60,9 @@ constexpr std::array kFootpointTerms = {
 struct LatitudeTerms {
     double sine;
     double cosine;
-    double nu;   // radius of curvature across the meridian
-    double psi;  // nu / rho
+    double secant;
+    double nuShare;  // semi-major axis over nu
+    double psi;      // nu / rho
     double t;
 };
 
@@ -69,13 +70,15 @@ LatitudeTerms TermsOf(double latitude)
 {
     const double sine = std::sin(latitude);
     const double cosine = std::cos(latitude);
+    const double secant = 1.0 / cosine;
     const double curvature = 1.0 - kE2 * sine * sine;
     return {
         .sine = sine,
         .cosine = cosine,
-        .nu = kSemiMajorAxis / std::sqrt(curvature),
-        .psi = curvature / (1.0 - kE2),
-        .t = sine / cosine,
+        .secant = secant,
+        .nuShare = std::sqrt(curvature),
+        .psi = curvature * (1.0 / (1.0 - kE2)),
+        .t = sine * secant,
     };
 }
 
@@ -87,8 +90,10 @@ double CentralMeridian(double zone)
 
 double FootpointLatitude(double northing)
 {
-    const double sigma = northing / (kScale * kRectifyingRadius);
-    return sigma + SineSeries(kFootpointTerms, std::sin(2.0 * sigma), std::cos(2.0 * sigma));
+    const double sigma = northing * (1.0 / (kScale * kRectifyingRadius));
+    const double sine = std::sin(sigma);
+    const double cosine = std::cos(sigma);
+    return sigma + SineSeries(kFootpointTerms, 2.0 * sine * cosine, 1.0 - 2.0 * sine * sine);
 }
 
 }  // namespace
@@ -98,68 +103,73 @@ UtmPosition GeoUTM(GeoPosition position)
     const auto zone = base::Saturate<std::int16_t>(std::floor((position.longitude + 186.0) / 6.0));
     const double w = (position.longitude - CentralMeridian(zone)) * kRadiansPerDegree;
     const double latitude = position.latitude * kRadiansPerDegree;
-    const auto [sine, cosine, nu, psi, t] = TermsOf(latitude);
-    const double arc = kSemiMajorAxis
-                       * (kArcFactor * latitude
-                          + SineSeries(kArcTerms, 2.0 * sine * cosine, 1.0 - 2.0 * sine * sine));
+    const LatitudeTerms at = TermsOf(latitude);
+    const double arc =
+        kArcFactor * latitude
+        + SineSeries(kArcTerms, 2.0 * at.sine * at.cosine, 1.0 - 2.0 * at.sine * at.sine);
+    const double psi = at.psi;
     const double psi2 = psi * psi;
-    const double t2 = t * t;
+    const double t2 = at.t * at.t;
     const double t4 = t2 * t2;
-    const double m = w * cosine;
+    const double m = w * at.cosine;
     const double m2 = m * m;
 
     const double north4 = 4.0 * psi2 + psi - t2;
     const double north6 =
         psi2 * (8.0 * psi2 * (11.0 - 24.0 * t2) - 28.0 * psi * (1.0 - 6.0 * t2) + 1.0 - 32.0 * t2)
         - 2.0 * psi * t2 + t4;
-    const double north8 = 1385.0 + t2 * (-3111.0 + t2 * (543.0 - t2));
-    const double north =
-        nu * t * m2
-        * (1.0 / 2.0 + m2 * (north4 / 24.0 + m2 * (north6 / 720.0 + m2 * north8 / 40320.0)));
+    const double north8 = Polynomial(t2, 1385.0, -3111.0, 543.0, -1.0);
+    const double north = at.t * m2
+                         * Polynomial(m2, 1.0 / 2.0, north4 * (1.0 / 24.0), north6 * (1.0 / 720.0),
+                                      north8 * (1.0 / 40320.0));
 
     const double east3 = psi - t2;
     const double east5 =
         psi2 * (4.0 * psi * (1.0 - 6.0 * t2) + 1.0 + 8.0 * t2) - 2.0 * psi * t2 + t4;
-    const double east7 = 61.0 + t2 * (-479.0 + t2 * (179.0 - t2));
+    const double east7 = Polynomial(t2, 61.0, -479.0, 179.0, -1.0);
     const double east =
-        nu * m * (1.0 + m2 * (east3 / 6.0 + m2 * (east5 / 120.0 + m2 * east7 / 5040.0)));
+        m * Polynomial(m2, 1.0, east3 * (1.0 / 6.0), east5 * (1.0 / 120.0), east7 * (1.0 / 5040.0));
 
+    const double scaledNu = kScale * kSemiMajorAxis / at.nuShare;
     return {
         .zone = zone,
-        .easting = kScale * east + kFalseEasting,
-        .northing = kScale * (arc + north),
+        .easting = scaledNu * east + kFalseEasting,
+        .northing = kScale * kSemiMajorAxis * arc + scaledNu * north,
     };
 }
 
 GeoPosition UtmToGeo(double zone, double easting, double northing)
 {
     const double footpoint = FootpointLatitude(northing);
-    const auto [sine, cosine, nu, psi, t] = TermsOf(footpoint);
+    const LatitudeTerms at = TermsOf(footpoint);
+    const double psi = at.psi;
     const double psi2 = psi * psi;
-    const double t2 = t * t;
+    const double t2 = at.t * at.t;
     const double t4 = t2 * t2;
-    const double x = (easting - kFalseEasting) / (kScale * nu);
+    const double x = (easting - kFalseEasting) * (1.0 / (kScale * kSemiMajorAxis)) * at.nuShare;
     const double x2 = x * x;
 
     const double north4 = -4.0 * psi2 + 9.0 * psi * (1.0 - t2) + 12.0 * t2;
     const double north6 = psi2
                               * (8.0 * psi2 * (11.0 - 24.0 * t2) - 12.0 * psi * (21.0 - 71.0 * t2)
-                                 + 15.0 * (15.0 - 98.0 * t2 + 15.0 * t4))
+                                 + 15.0 * Polynomial(t2, 15.0, -98.0, 15.0))
                           + 180.0 * psi * (5.0 * t2 - 3.0 * t4) + 360.0 * t4;
-    const double north8 = 1385.0 + t2 * (3633.0 + t2 * (4095.0 + t2 * 1575.0));
-    const double north =
-        t * psi * x2
-        * (1.0 / 2.0 - x2 * (north4 / 24.0 - x2 * (north6 / 720.0 - x2 * north8 / 40320.0)));
+    const double north8 = Polynomial(t2, 1385.0, 3633.0, 4095.0, 1575.0);
+    const double north = at.t * psi * x2
+                         * Polynomial(x2, 1.0 / 2.0, north4 * (-1.0 / 24.0), north6 * (1.0 / 720.0),
+                                      north8 * (-1.0 / 40320.0));
 
     const double east3 = psi + 2.0 * t2;
     const double east5 =
         psi2 * (-4.0 * psi * (1.0 - 6.0 * t2) + 9.0 - 68.0 * t2) + 72.0 * psi * t2 + 24.0 * t4;
-    const double east7 = 61.0 + t2 * (662.0 + t2 * (1320.0 + t2 * 720.0));
-    const double east = x * (1.0 - x2 * (east3 / 6.0 - x2 * (east5 / 120.0 - x2 * east7 / 5040.0)));
+    const double east7 = Polynomial(t2, 61.0, 662.0, 1320.0, 720.0);
+    const double east =
+        x * at.secant
+        * Polynomial(x2, 1.0, east3 * (-1.0 / 6.0), east5 * (1.0 / 120.0), east7 * (-1.0 / 5040.0));
 
     return {
         .latitude = (footpoint - north) * kDegreesPerRadian,
-        .longitude = CentralMeridian(zone) + east / cosine * kDegreesPerRadian,
+        .longitude = CentralMeridian(zone) + east * kDegreesPerRadian,
     };
 }
 

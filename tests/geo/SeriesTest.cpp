@@ -1,4 +1,4 @@
-#include "geo/SineSeries.h"
+#include "geo/Series.h"
 
 #include <array>
 #include <cmath>
