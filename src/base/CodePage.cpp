@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <cstdint>
+#include <cstring>
 
 namespace base {
 
@@ -25,6 +27,24 @@ char CodePageByte(char32_t character)
         return '?';
     }
     return static_cast<char>(static_cast<unsigned char>(0x80 + (found - kHighControls.begin())));
+}
+
+// Number of ASCII bytes that `text` begins with. Most texts are nothing else, so they are looked at
+// eight bytes at a time.
+std::size_t AsciiLength(std::string_view text)
+{
+    constexpr std::uint64_t kHighBits = 0x8080808080808080U;
+    std::size_t length = 0;
+    for (std::uint64_t eight = 0; length + sizeof eight <= text.size(); length += sizeof eight) {
+        std::memcpy(&eight, text.data() + length, sizeof eight);
+        if ((eight & kHighBits) != 0) {
+            break;
+        }
+    }
+    while (length < text.size() && static_cast<unsigned char>(text[length]) < 0x80) {
+        ++length;
+    }
+    return length;
 }
 
 // Length of the sequence that starts with `lead` and the smallest character it may encode.
@@ -106,9 +126,9 @@ void AppendUtf8(std::string& text, char32_t character)
 
 std::string FromCodePage(std::string_view bytes)
 {
-    std::string text;
-    text.reserve(bytes.size());
-    for (const char c : bytes) {
+    const std::size_t ascii = AsciiLength(bytes);
+    std::string text(bytes.substr(0, ascii));
+    for (const char c : bytes.substr(ascii)) {
         const auto byte = static_cast<unsigned char>(c);
         const bool special = byte >= 0x80 && byte < 0xA0;
         AppendUtf8(text, special ? kHighControls[byte - 0x80U] : static_cast<char32_t>(byte));
@@ -118,8 +138,9 @@ std::string FromCodePage(std::string_view bytes)
 
 std::string ToCodePage(std::string_view utf8)
 {
-    std::string bytes;
-    bytes.reserve(utf8.size());
+    const std::size_t ascii = AsciiLength(utf8);
+    std::string bytes(utf8.substr(0, ascii));
+    utf8.remove_prefix(ascii);
     while (!utf8.empty()) {
         const DecodedCharacter next = DecodeUtf8(utf8);
         bytes += next.valid ? CodePageByte(next.character) : '?';
@@ -130,7 +151,8 @@ std::string ToCodePage(std::string_view utf8)
 
 bool IsUtf8(std::string_view bytes)
 {
-    while (!bytes.empty()) {
+    for (bytes.remove_prefix(AsciiLength(bytes)); !bytes.empty();
+         bytes.remove_prefix(AsciiLength(bytes))) {
         const DecodedCharacter next = DecodeUtf8(bytes);
         if (!next.valid) {
             return false;

@@ -78,7 +78,8 @@ std::string_view Print(DigitBuffer& buffer, double magnitude, std::size_t decima
 // 2^-(d+1).
 bool IsTie(double magnitude, std::size_t decimals)
 {
-    return std::fmod(std::ldexp(magnitude, static_cast<int>(decimals) + 1), 2.0) == 1.0;
+    const double half = std::ldexp(magnitude, static_cast<int>(decimals));
+    return half - std::floor(half) == 0.5;
 }
 
 // Decimal text one unit of its last place larger.

@@ -147,21 +147,20 @@ std::uint64_t Sorter::LeadingNumber(std::size_t index) const
 
 void Sorter::MakeEntries()
 {
-    // NaN is neither below nor above anything, so no number can stand for it: then all entries have
-    // the same one, and every comparison looks at the records.
-    bool ordered = true;
-    if (LeadsWithNumber()) {
-        for (std::size_t i = 0; i < records_.size() && ordered; ++i) {
-            ordered = !std::isnan(LeadingValue(i));
-        }
-    }
     entries_.reserve(records_.size());
+    bool ordered = true;
     for (std::size_t i = 0; i < records_.size(); ++i) {
-        std::uint64_t number = ordered ? LeadingNumber(i) : 0;
-        if (descending_) {
-            number = ~number;
+        const std::uint64_t number = LeadingNumber(i);
+        ordered = ordered && !(LeadsWithNumber() && std::isnan(LeadingValue(i)));
+        entries_.push_back(
+            {.number = descending_ ? ~number : number, .index = static_cast<std::uint32_t>(i)});
+    }
+    if (!ordered) {
+        // NaN is neither below nor above anything, so no number can stand for it. With one number
+        // for all, every comparison looks at the records.
+        for (Entry& entry : entries_) {
+            entry.number = 0;
         }
-        entries_.push_back({.number = number, .index = static_cast<std::uint32_t>(i)});
     }
 }
 
@@ -179,7 +178,7 @@ int Sorter::Compare(const Entry& a, const Entry& b) const
     if (a.number != b.number) {
         return a.number < b.number ? -1 : 1;
     }
-    return CompareRecords(a.index, b.index);
+    return a.index == b.index ? 0 : CompareRecords(a.index, b.index);
 }
 
 // One partition step of the entries lo..hi: the last index of the left part and the first of the
@@ -271,9 +270,7 @@ void Sort(StationDatabase& database, ListKey key, Order order, std::vector<doubl
     if (!IsKey(key)) {
         return;
     }
-    const std::vector<std::uint32_t> sequence =
-        Sorter(database.Records(), key, order, keyValues).Run();
-    database.Reorder(sequence);
+    std::vector<std::uint32_t> sequence = Sorter(database.Records(), key, order, keyValues).Run();
     if (HasKeyValues(key)) {
         std::vector<double> sorted;
         sorted.reserve(sequence.size());
@@ -282,6 +279,7 @@ void Sort(StationDatabase& database, ListKey key, Order order, std::vector<doubl
         }
         keyValues = std::move(sorted);
     }
+    database.Reorder(std::move(sequence));
 }
 
 }  // namespace stations

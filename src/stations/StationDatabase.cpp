@@ -54,13 +54,24 @@ std::span<StationRecord> StationDatabase::Extend(std::size_t count)
     return std::span(records_).subspan(old);
 }
 
-void StationDatabase::Reorder(std::span<const std::uint32_t> order)
+void StationDatabase::Reorder(std::vector<std::uint32_t> order)
 {
-    decltype(records_) sorted(records_.size());
-    for (std::size_t i = 0; i < order.size(); ++i) {
-        sorted[i] = records_[order[i]];
+    // In place, one closed chain of moves after the other: a second array of this size costs more
+    // than the moves. A place that has its record points to itself.
+    for (std::uint32_t first = 0; first < order.size(); ++first) {
+        if (order[first] == first) {
+            continue;
+        }
+        const StationRecord displaced = records_[first];
+        std::uint32_t place = first;
+        for (std::uint32_t source = order[place]; source != first; source = order[place]) {
+            records_[place] = records_[source];
+            order[place] = place;
+            place = source;
+        }
+        records_[place] = displaced;
+        order[place] = place;
     }
-    records_.swap(sorted);
 }
 
 }  // namespace stations

@@ -47,7 +47,7 @@ public:
     std::span<StationRecord> Extend(std::size_t count);
 
     // Record `order[i]` becomes record i. `order` holds each index below Count() once.
-    void Reorder(std::span<const std::uint32_t> order);
+    void Reorder(std::vector<std::uint32_t> order);
 
 private:
     // Leaves new records unset: a database read from a file is written once, not twice.

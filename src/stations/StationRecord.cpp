@@ -14,24 +14,6 @@ constexpr std::size_t kEndOfRoom = 255;
 
 }  // namespace
 
-std::string_view Trimmed(std::string_view text)
-{
-    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
-    text.remove_suffix(text.size() - (text.find_last_not_of(' ') + 1));  // npos + 1 is 0
-    return text;
-}
-
-std::string_view StationRecord::Bytes(Field field) const
-{
-    const auto k = static_cast<std::size_t>(field);
-    const std::size_t start = k == 0 ? 1 : ends_[k - 1];
-    const std::size_t end = ends_[k];
-    if (start == 0 || end <= start) {
-        return {};
-    }
-    return {text_.data() + start - 1, end - start};
-}
-
 std::string StationRecord::Text(Field field) const
 {
     return base::FromCodePage(Bytes(field));
@@ -49,32 +31,10 @@ void StationRecord::SetBytes(Field field, std::string_view bytes)
     ends_[k] = static_cast<std::uint8_t>(start + stored.size());
 }
 
-double StationRecord::Longitude() const
-{
-    return std::bit_cast<double>(longitude_);
-}
-
-double StationRecord::Latitude() const
-{
-    return std::bit_cast<double>(latitude_);
-}
-
-geo::GeoPosition StationRecord::Position() const
-{
-    return {.latitude = Latitude(), .longitude = Longitude()};
-}
-
 void StationRecord::SetPosition(geo::GeoPosition position)
 {
     longitude_ = std::bit_cast<std::array<unsigned char, 8>>(position.longitude);
     latitude_ = std::bit_cast<std::array<unsigned char, 8>>(position.latitude);
-}
-
-StationRecord EmptyRecord()
-{
-    StationRecord record;
-    record.text_.fill(' ');
-    return record;
 }
 
 StationRecord BuildRecord(const StationTexts& texts, geo::GeoPosition position,

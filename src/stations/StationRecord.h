@@ -14,6 +14,7 @@
 #pragma once
 
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -36,13 +37,31 @@ enum class Field : std::uint8_t {
 };
 
 // Bytes of `text` without the blanks at both ends.
-std::string_view Trimmed(std::string_view text);
+inline std::string_view Trimmed(std::string_view text)
+{
+    while (text.starts_with(' ')) {
+        text.remove_prefix(1);
+    }
+    while (text.ends_with(' ')) {
+        text.remove_suffix(1);
+    }
+    return text;
+}
 
 class StationRecord {
 public:
     // Text of a field as it is stored, for comparing. It lives as long as the record. Positions
     // that make no sense give an empty text.
-    std::string_view Bytes(Field field) const;
+    std::string_view Bytes(Field field) const
+    {
+        const auto k = static_cast<std::size_t>(field);
+        const std::size_t start = k == 0 ? 1 : ends_[k - 1];
+        const std::size_t end = ends_[k];
+        if (start == 0 || end <= start) {
+            return {};
+        }
+        return {text_.data() + start - 1, end - start};
+    }
 
     // The same as UTF-8, for showing.
     std::string Text(Field field) const;
@@ -52,16 +71,16 @@ public:
     // left nothing is stored, and nothing in the fields behind it either.
     void SetBytes(Field field, std::string_view bytes);
 
-    double Longitude() const;
-    double Latitude() const;
-    geo::GeoPosition Position() const;
+    double Longitude() const { return std::bit_cast<double>(longitude_); }
+    double Latitude() const { return std::bit_cast<double>(latitude_); }
+    geo::GeoPosition Position() const { return {.latitude = Latitude(), .longitude = Longitude()}; }
     void SetPosition(geo::GeoPosition position);
 
     // All 290 bytes.
     bool operator==(const StationRecord&) const = default;
 
 private:
-    friend StationRecord EmptyRecord();
+    friend constexpr StationRecord EmptyRecord();
 
     std::array<std::uint8_t, 10> ends_ = {};
     std::array<char, 256> text_ = {};
@@ -76,7 +95,12 @@ static_assert(sizeof(StationRecord) == 290 && alignof(StationRecord) == 1
 
 // A record without texts at latitude and longitude 0: end positions 0, 256 blanks, zeros. (One made
 // by default has zeros for blanks.)
-StationRecord EmptyRecord();
+constexpr StationRecord EmptyRecord()
+{
+    StationRecord record;
+    record.text_.fill(' ');
+    return record;
+}
 
 // What a station panel shows of a station, UTF-8.
 struct StationTexts {

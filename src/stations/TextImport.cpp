@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <system_error>
 
 #include "base/CodePage.h"
 #include "base/NumberText.h"
@@ -110,23 +112,25 @@ std::optional<double> WholeNumber(std::string_view field)
     if (digits.starts_with('-') || digits.starts_with('+')) {
         digits.remove_prefix(1);
     }
-    std::size_t separator = std::string_view::npos;
-    for (std::size_t i = 0; i < digits.size(); ++i) {
-        if (digits[i] >= '0' && digits[i] <= '9') {
-            continue;
-        }
-        const bool isSeparator = digits[i] == '.' || digits[i] == ',';
-        if (!isSeparator || separator != std::string_view::npos) {
-            return std::nullopt;
-        }
-        separator = i;
-    }
-    const std::size_t separators = separator == std::string_view::npos ? 0 : 1;
-    if (digits.size() == separators) {
+    // from_chars knows infinity and NaN, too.
+    if (digits.find_first_of("0123456789.,") != 0) {
         return std::nullopt;
     }
-    const bool comma = separators == 1 && digits[separator] == ',';
-    return comma ? base::ReadNumber(field) : base::Val(field);
+    std::string repaired;
+    if (digits.find(',') != std::string_view::npos) {
+        repaired = base::RepairDecimalComma(digits);
+        digits = repaired;
+    }
+    double magnitude = 0.0;
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(),
+                                              magnitude, std::chars_format::fixed);
+    if (error == std::errc::invalid_argument || end != digits.data() + digits.size()) {
+        return std::nullopt;
+    }
+    if (error == std::errc::result_out_of_range) {
+        return base::ReadNumber(field);
+    }
+    return field.starts_with('-') ? 0.0 - magnitude : magnitude;
 }
 
 // What a line says.
@@ -180,9 +184,11 @@ std::optional<SkipReason> ReasonToSkip(const Line& line)
     return std::nullopt;
 }
 
-StationRecord MakeRecord(const Line& line, std::string_view text, std::string_view date)
+void FillRecord(StationRecord& record, const Line& line, std::string_view text,
+                std::string_view date)
 {
-    StationRecord record = EmptyRecord();
+    static constexpr StationRecord kEmpty = EmptyRecord();
+    record = kEmpty;
     record.SetBytes(Field::Callsign, text);
     record.SetBytes(Field::Name, {});
     record.SetBytes(Field::Place, text);
@@ -192,7 +198,6 @@ StationRecord MakeRecord(const Line& line, std::string_view text, std::string_vi
     record.SetBytes(Field::Reserved6, {});
     record.SetBytes(Field::Reserved7, {});
     record.SetPosition({.latitude = line.numbers[0], .longitude = line.numbers[1]});
-    return record;
 }
 
 enum class Encoding { Utf8, CodePage };
@@ -202,6 +207,8 @@ ImportResult ImportLines(std::string_view text, Encoding encoding, std::string_v
 {
     ImportResult result;
     const std::size_t before = database.Count();
+    constexpr std::size_t kShortestLine = 6;  // a character, two digits, two tabs and its end
+    database.Reserve(std::min(before + text.size() / kShortestLine + 1, kMaxRecords));
     LineReader lines(text);
     while (const std::optional<std::string_view> content = lines.Next()) {
         if (content->starts_with('#')) {
@@ -218,13 +225,15 @@ ImportResult ImportLines(std::string_view text, Encoding encoding, std::string_v
             }
             continue;
         }
-        const bool appended =
-            encoding == Encoding::Utf8
-                ? database.Append(MakeRecord(line, base::ToCodePage(line.text), date))
-                : database.Append(MakeRecord(line, line.text, date));
-        if (!appended) {
+        if (database.Count() == kMaxRecords) {
             database.Truncate(before);
             return {.tooMany = true, .imported = 0, .skipped = 0, .firstSkipped = {}};
+        }
+        StationRecord& record = database.Extend(1).front();
+        if (encoding == Encoding::Utf8) {
+            FillRecord(record, line, base::ToCodePage(line.text), date);
+        } else {
+            FillRecord(record, line, line.text, date);
         }
     }
     result.imported = database.Count() - before;

@@ -1,8 +1,6 @@
 #include "stations/StationDatabase.h"
 
-#include <array>
 #include <cstddef>
-#include <cstdint>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -71,8 +69,10 @@ TEST(StationDatabase, KeepsTheFirstRecordsWhenTruncated)
 TEST(StationDatabase, TakesANewOrder)
 {
     StationDatabase database = CountedDatabase(3);
-    database.Reorder(std::array<std::uint32_t, 3>{2, 0, 1});
+    database.Reorder({2, 0, 1});
     EXPECT_EQ(Callsigns(database), "2 0 1 ");
+    database.Reorder({0, 2, 1});
+    EXPECT_EQ(Callsigns(database), "2 1 0 ");
 }
 
 }  // namespace
