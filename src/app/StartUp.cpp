@@ -50,7 +50,8 @@ bool LoadDatabase(AppState& state)
 
 bool LoadAtStartUp(AppState& state)
 {
-    // Until it has been read, nobody knows what the working file holds.
+    // Until they have been read, nobody knows what the two files hold.
+    state.session.configurationBytes = stations::OldBytes::Unknown;
     state.session.workingFileBytes = stations::OldBytes::Unknown;
     try {
         return LoadConfiguration(state) && LoadDatabase(state)
