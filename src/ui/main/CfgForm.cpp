@@ -88,7 +88,7 @@ CfgForm::CfgForm(app::AppState& state, QWidget* parent) : QDialog(parent), state
     connect(Command2, &QPushButton::clicked, this, &QDialog::reject);
 }
 
-void CfgForm::Open()
+void CfgForm::Edit()
 {
     copy_ = state_.configuration;
     ShowSettings();

@@ -23,7 +23,7 @@ public:
     explicit CfgForm(app::AppState& state, QWidget* parent = nullptr);
 
     // Copies the configuration anew and shows the dialog, modal, without waiting.
-    void Open();
+    void Edit();
 
     // Grad-Format. Shown only: "O.k." leaves the degree format as it was.
     QRadioButton* Option1;  // "G-M-S (Sekunden)"

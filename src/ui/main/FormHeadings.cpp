@@ -20,19 +20,19 @@ FormHeadings::FormHeadings(QGridLayout& grid, int row) : QObject(grid.parentWidg
         QString text;
         int column;
     } headings[] = {
-        {"Label5", u"INFO"_s, StationPanel::kInfo},
-        {"Label6", u"KOMPASSO"_s, StationPanel::kLocator},
-        {"Label7", u"GRAD"_s, StationPanel::kDecimal},
-        {"Label9", u"GAUSS-KRÜGER"_s, StationPanel::kGaussKrueger},
-        {"Label13", u"UTM"_s, StationPanel::kUtm},
+        {"Label5", u"INFO"_s, StationPanel::Info},
+        {"Label6", u"KOMPASSO"_s, StationPanel::Locator},
+        {"Label7", u"GRAD"_s, StationPanel::Decimal},
+        {"Label9", u"GAUSS-KRÜGER"_s, StationPanel::GaussKrueger},
+        {"Label13", u"UTM"_s, StationPanel::Utm},
     };
     for (const auto& h : headings) {
         auto* const label = Named(new QLabel(h.text, window), QLatin1StringView(h.name));
         QFont bold = label->font();
         bold.setBold(true);
         label->setFont(bold);
-        label->setContentsMargins(h.column == StationPanel::kInfo ? StationPanel::kPadding : 0, 0,
-                                  0, 0);
+        label->setContentsMargins(h.column == StationPanel::Info ? StationPanel::kPadding : 0, 0, 0,
+                                  0);
         grid.addWidget(label, row, h.column);
     }
 
@@ -49,7 +49,7 @@ FormHeadings::FormHeadings(QGridLayout& grid, int row) : QObject(grid.parentWidg
     }
     line->addStretch();
     Option2[0]->setChecked(true);
-    grid.addLayout(line, row, StationPanel::kDegreeMinute);
+    grid.addLayout(line, row, StationPanel::DegreeMinute);
 }
 
 }  // namespace ui

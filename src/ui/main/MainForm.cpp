@@ -32,7 +32,7 @@ namespace ui {
 using namespace Qt::StringLiterals;
 
 MainForm::MainForm(app::AppState& state, UserDialogs& dialogs)
-    : state_(state), dialogs_(dialogs), PC1(Named(new PictureClip(this), u"PC1"_s))
+    : PC1(Named(new PictureClip(this), u"PC1"_s)), state_(state), dialogs_(dialogs)
 {
     setObjectName(u"MainForm"_s);
     setWindowTitle(u"KOMPASSO V0.28"_s);
@@ -82,7 +82,7 @@ QWidget* MainForm::NewContents()
 
     constexpr int kFormSpacing = 18;
     grid->setHorizontalSpacing(kFormSpacing);
-    grid->setColumnStretch(StationPanel::kInfo, 1);
+    grid->setColumnStretch(StationPanel::Info, 1);
     headings_ = new FormHeadings(*grid, 0);
     panel_[0] = new StationPanel(0, *grid, 1);
     panel_[1] = new StationPanel(1, *grid, 1 + StationPanel::kRows);
@@ -113,15 +113,15 @@ void MainForm::DrawPictures()
 {
     PC1->Draw(palette());
     for (StationPanel* const panel : panel_) {
-        panel->Command1->setIcon(PC1->Icon(PictureClip::kLoad));
-        panel->Command4->setIcon(PC1->Icon(PictureClip::kRemove));
-        panel->SA->setIcon(PC1->Icon(PictureClip::kSave));
+        panel->Command1->setIcon(PC1->Icon(PictureClip::Load));
+        panel->Command4->setIcon(PC1->Icon(PictureClip::Remove));
+        panel->SA->setIcon(PC1->Icon(PictureClip::Save));
     }
-    result_->Command5->setIcon(PC1->Icon(PictureClip::kMap));
-    list_->Command2->setIcon(PC1->Icon(PictureClip::kClose));
-    list_->Command3->setIcon(PC1->Icon(PictureClip::kSort));
-    list_->Command6->setIcon(PC1->Icon(PictureClip::kMoveOut));
-    list_->Command7->setIcon(PC1->Icon(PictureClip::kSave));
+    result_->Command5->setIcon(PC1->Icon(PictureClip::Map));
+    list_->Command2->setIcon(PC1->Icon(PictureClip::Close));
+    list_->Command3->setIcon(PC1->Icon(PictureClip::Sort));
+    list_->Command6->setIcon(PC1->Icon(PictureClip::MoveOut));
+    list_->Command7->setIcon(PC1->Icon(PictureClip::Save));
 }
 
 bool MainForm::Start()

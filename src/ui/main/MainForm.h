@@ -44,6 +44,8 @@ public:
     void UpdateQTHFile() override;
     bool IsMarked(std::size_t index) const override;
 
+    PictureClip* PC1;  // the pictures of the buttons
+
 signals:
     void MapWanted();
     void Changed();  // a station or the database, here
@@ -74,7 +76,6 @@ private:
 
     app::AppState& state_;
     UserDialogs& dialogs_;
-    PictureClip* PC1 = nullptr;
     FormHeadings* headings_ = nullptr;
     std::array<StationPanel*, 2> panel_ = {};
     ResultBlock* result_ = nullptr;

@@ -46,7 +46,7 @@ void MainForm::AddMenus()
                             {"MnuOpen", u"Öffnen"_s, telling(&FileCommands::Open)},
                             {"MnuAppend", u"Anfügen"_s, telling(&FileCommands::Append)},
                             {},
-                            {"MnuConfig", u"Konfiguration"_s, [this] { configuration_->Open(); }},
+                            {"MnuConfig", u"Konfiguration"_s, [this] { configuration_->Edit(); }},
                             {},
                             {"MnuList", u"Listing"_s, [this] { files_->WriteListing(); }},
                             {},

@@ -24,44 +24,44 @@ void DrawArrow(QPainter& painter, QPointF from, QPointF to)
 void DrawPiece(QPainter& painter, PictureClip::Piece piece)
 {
     switch (piece) {
-    case PictureClip::kLoad:  // an arrow out of a list
+    case PictureClip::Load:  // an arrow out of a list
         painter.drawLines({QLineF(2, 4, 7, 4), QLineF(2, 8, 5, 8), QLineF(2, 12, 7, 12)});
         DrawArrow(painter, {7, 8}, {14, 8});
         break;
-    case PictureClip::kRemove:
+    case PictureClip::Remove:
         painter.drawLines({QLineF(3, 3, 13, 13), QLineF(13, 3, 3, 13)});
         break;
-    case PictureClip::kSave:  // an arrow onto a tray
+    case PictureClip::Save:  // an arrow onto a tray
         DrawArrow(painter, {8, 2}, {8, 10});
         painter.drawPolyline(QPolygonF({{2, 10}, {2, 14}, {14, 14}, {14, 10}}));
         break;
-    case PictureClip::kMap:  // rings and a cross
+    case PictureClip::Map:  // rings and a cross
         painter.drawEllipse(QPointF(8, 8), 6, 6);
         painter.drawEllipse(QPointF(8, 8), 2.5, 2.5);
         painter.drawLines({QLineF(8, 1, 8, 15), QLineF(1, 8, 15, 8)});
         break;
-    case PictureClip::kSort:
+    case PictureClip::Sort:
         painter.drawLines({QLineF(2, 4, 5, 4), QLineF(2, 8, 7, 8), QLineF(2, 12, 9, 12)});
         DrawArrow(painter, {12, 3}, {12, 13});
         break;
-    case PictureClip::kMoveOut:  // an arrow out of a box
+    case PictureClip::MoveOut:  // an arrow out of a box
         painter.drawPolyline(QPolygonF({{8, 3}, {2, 3}, {2, 13}, {8, 13}}));
         DrawArrow(painter, {6, 8}, {14, 8});
         break;
-    case PictureClip::kClose: painter.drawLine(3, 13, 13, 13); break;
-    case PictureClip::kPieces: break;
+    case PictureClip::Close: painter.drawLine(3, 13, 13, 13); break;
+    case PictureClip::Pieces: break;
     }
 }
 
 QPixmap NewPicture(const QColor& colour)
 {
-    QPixmap picture(PictureClip::kPieces * kPieceSize, kPieceSize);
+    QPixmap picture(PictureClip::Pieces * kPieceSize, kPieceSize);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(colour, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.scale(static_cast<qreal>(kPieceSize) / kUnits, static_cast<qreal>(kPieceSize) / kUnits);
-    for (int piece = 0; piece < PictureClip::kPieces; ++piece) {
+    for (int piece = 0; piece < PictureClip::Pieces; ++piece) {
         DrawPiece(painter, static_cast<PictureClip::Piece>(piece));
         painter.translate(kUnits, 0);
     }

@@ -14,7 +14,7 @@ class PictureClip : public QObject {
     Q_OBJECT
 
 public:
-    enum Piece { kLoad, kRemove, kSave, kMap, kSort, kMoveOut, kClose, kPieces };
+    enum Piece { Load, Remove, Save, Map, Sort, MoveOut, Close, Pieces };
 
     explicit PictureClip(QObject* parent = nullptr);
 

@@ -21,8 +21,8 @@ QGridLayout& NewForm(QGridLayout& grid, int row, int column)
 {
     auto* const widget = new QWidget(grid.parentWidget());
     auto* const form = new QGridLayout(widget);
-    form->setContentsMargins(column == StationPanel::kInfo ? StationPanel::kPadding : 0, 0,
-                             column == StationPanel::kUtm ? StationPanel::kPadding : 0, 0);
+    form->setContentsMargins(column == StationPanel::Info ? StationPanel::kPadding : 0, 0,
+                             column == StationPanel::Utm ? StationPanel::kPadding : 0, 0);
     grid.addWidget(widget, row, column);
     return *form;
 }
@@ -34,7 +34,7 @@ StationPanel::StationPanel(int stationIndex, QGridLayout& grid, int row)
 {
     auto* const frame = new QFrame(window_);
     frame->setFrameShape(QFrame::StyledPanel);
-    grid.addWidget(frame, row, 0, kRows, kColumns);
+    grid.addWidget(frame, row, 0, kRows, Columns);
 
     const bool first = station == 0;
     auto* const title = Named(new QLabel(first ? u"Station1"_s : u"Station2"_s, window_),
@@ -46,12 +46,12 @@ StationPanel::StationPanel(int stationIndex, QGridLayout& grid, int row)
     grid.addWidget(title, row, 0, Qt::AlignBottom);
 
     // Made in reading order, which is thereby the order of the Tab key.
-    AddInfo(NewForm(grid, row + 1, kInfo));
-    AddLocator(NewForm(grid, row + 1, kLocator));
-    AddDecimal(NewForm(grid, row + 1, kDecimal));
-    AddDegreeMinute(NewForm(grid, row + 1, kDegreeMinute));
-    AddGaussKrueger(NewForm(grid, row + 1, kGaussKrueger));
-    AddUtm(NewForm(grid, row + 1, kUtm));
+    AddInfo(NewForm(grid, row + 1, Info));
+    AddLocator(NewForm(grid, row + 1, Locator));
+    AddDecimal(NewForm(grid, row + 1, Decimal));
+    AddDegreeMinute(NewForm(grid, row + 1, DegreeMinute));
+    AddGaussKrueger(NewForm(grid, row + 1, GaussKrueger));
+    AddUtm(NewForm(grid, row + 1, Utm));
     AddButtons(grid, row + 2);
 }
 
@@ -208,7 +208,7 @@ void StationPanel::AddButtons(QGridLayout& grid, int row)
         button->setAccessibleName(u"Station %1, %2"_s.arg(station + 1).arg(button->text()));
         line->addWidget(button);
     }
-    grid.addLayout(line, row, 0, 1, kColumns);
+    grid.addLayout(line, row, 0, 1, Columns);
 }
 
 }  // namespace ui

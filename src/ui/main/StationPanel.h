@@ -30,7 +30,7 @@ public:
     StationPanel(int station, QGridLayout& grid, int row);
 
     // Grid columns of the forms, in reading order.
-    enum FormColumn { kInfo, kLocator, kDecimal, kDegreeMinute, kGaussKrueger, kUtm, kColumns };
+    enum FormColumn { Info, Locator, Decimal, DegreeMinute, GaussKrueger, Utm, Columns };
 
     // Between the frame of a block and its controls, in pixels.
     static constexpr int kPadding = 8;
