@@ -47,4 +47,15 @@ Integer Saturate(double value)
     return static_cast<Integer>(value);
 }
 
+// Largest whole number not above `value` as an integer type, kept within the type's range. Quicker
+// than Saturate of std::floor, which goes to an integer and back first.
+template <typename Integer>
+Integer SaturateFloor(double value)
+{
+    const auto whole = Saturate<Integer>(value);
+    const bool roundedUp =
+        static_cast<double>(whole) > value && whole > std::numeric_limits<Integer>::min();
+    return roundedUp ? static_cast<Integer>(whole - 1) : whole;
+}
+
 }  // namespace base

@@ -55,6 +55,9 @@ inline PointPair MakePair(double startLatitude, double targetLatitude, double lo
     const double a = startLatitude * kRadiansPerDegree;
     const double b = targetLatitude * kRadiansPerDegree;
     const double c = ReducedDifference(longitudeDifference) * kRadiansPerDegree;
+    // By half of C, because sine and cosine are quicker within a quarter turn.
+    const double sinHalf = std::sin(c / 2.0);
+    const double cosHalf = std::cos(c / 2.0);
     return {
         .a = a,
         .b = b,
@@ -63,8 +66,8 @@ inline PointPair MakePair(double startLatitude, double targetLatitude, double lo
         .cosA = std::cos(a),
         .sinB = std::sin(b),
         .cosB = std::cos(b),
-        .sinC = std::sin(c),
-        .cosC = std::cos(c),
+        .sinC = 2.0 * sinHalf * cosHalf,
+        .cosC = 1.0 - 2.0 * sinHalf * sinHalf,
     };
 }
 

@@ -3,7 +3,6 @@
 #include <array>
 #include <cmath>
 #include <cstring>
-#include <limits>
 
 #include "base/Rounding.h"
 
@@ -93,12 +92,9 @@ inline GeoPosition SubsquareCentre(std::string_view c)
     };
 }
 
-// Not by std::floor, which would wait for two more conversions.
 std::int16_t Floor(double value)
 {
-    const auto whole = base::Saturate<std::int16_t>(value);
-    const bool cutUp = whole > value && whole > std::numeric_limits<std::int16_t>::min();
-    return static_cast<std::int16_t>(whole - (cutUp ? 1 : 0));
+    return base::SaturateFloor<std::int16_t>(value);
 }
 
 char LocatorCharacter(std::int16_t value, char zero)

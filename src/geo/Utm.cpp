@@ -70,15 +70,14 @@ LatitudeTerms TermsOf(double latitude)
 {
     const double sine = std::sin(latitude);
     const double cosine = std::cos(latitude);
-    const double secant = 1.0 / cosine;
     const double curvature = 1.0 - kE2 * sine * sine;
     return {
         .sine = sine,
         .cosine = cosine,
-        .secant = secant,
+        .secant = 1.0 / cosine,
         .nuShare = std::sqrt(curvature),
         .psi = curvature * (1.0 / (1.0 - kE2)),
-        .t = sine * secant,
+        .t = sine / cosine,
     };
 }
 
@@ -100,7 +99,7 @@ double FootpointLatitude(double northing)
 
 UtmPosition GeoUTM(GeoPosition position)
 {
-    const auto zone = base::Saturate<std::int16_t>(std::floor((position.longitude + 186.0) / 6.0));
+    const auto zone = base::SaturateFloor<std::int16_t>((position.longitude + 186.0) / 6.0);
     const double w = (position.longitude - CentralMeridian(zone)) * kRadiansPerDegree;
     const double latitude = position.latitude * kRadiansPerDegree;
     const LatitudeTerms at = TermsOf(latitude);

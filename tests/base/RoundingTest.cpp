@@ -40,5 +40,21 @@ TEST(Saturate, KeepsTheRangeOfTheType)
     EXPECT_EQ(Saturate<std::uint8_t>(-3.0), 0);
 }
 
+TEST(SaturateFloor, RoundsDownAndKeepsTheRangeOfTheType)
+{
+    EXPECT_EQ(SaturateFloor<std::int16_t>(1.9), 1);
+    EXPECT_EQ(SaturateFloor<std::int16_t>(2.0), 2);
+    EXPECT_EQ(SaturateFloor<std::int16_t>(-0.1), -1);
+    EXPECT_EQ(SaturateFloor<std::int16_t>(-1.0), -1);
+    EXPECT_EQ(SaturateFloor<std::int16_t>(-5e-324), -1);
+    EXPECT_EQ(SaturateFloor<std::int16_t>(-32767.5), -32768);
+    EXPECT_EQ(SaturateFloor<std::int16_t>(-32768.5), -32768);
+    EXPECT_EQ(SaturateFloor<std::int16_t>(32767.5), 32767);
+    EXPECT_EQ(SaturateFloor<std::int16_t>(1e300), 32767);
+    EXPECT_EQ(SaturateFloor<std::int16_t>(-kInfinity), -32768);
+    EXPECT_EQ(SaturateFloor<std::int16_t>(kNaN), 0);
+    EXPECT_EQ(SaturateFloor<std::uint8_t>(-0.5), 0);
+}
+
 }  // namespace
 }  // namespace base
