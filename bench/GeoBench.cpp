@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <random>
 #include <string>
 
@@ -36,7 +37,7 @@ void ForEachPosition(benchmark::State& state, Function function)
 {
     const auto positions = RandomPositions();
     std::size_t i = 0;
-    for (auto step : state) {
+    for ([[maybe_unused]] const auto step : state) {
         benchmark::DoNotOptimize(function(positions[i]));
         i = (i + 1) % kCount;
     }
@@ -57,7 +58,7 @@ void PositionFromLocator(benchmark::State& state)
         locators[i] = PositionToLocator(positions[i].latitude, positions[i].longitude);
     }
     std::size_t i = 0;
-    for (auto step : state) {
+    for ([[maybe_unused]] const auto step : state) {
         benchmark::DoNotOptimize(LocatorToPosition(locators[i]));
         i = (i + 1) % kCount;
     }

@@ -6,7 +6,10 @@
 #include <array>
 #include <boost/geometry.hpp>
 #include <boost/geometry/strategies/spherical/azimuth.hpp>
+#include <cstddef>
+#include <cstdint>
 #include <cstdio>
+#include <exception>
 #include <hamlib/rotator.h>
 #include <memory>
 #include <numeric>
