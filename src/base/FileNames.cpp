@@ -40,7 +40,7 @@ std::string FollowLinks(const std::string& name)
             break;
         }
         const std::string next(target.data(), static_cast<std::size_t>(length));
-        current = next.front() == '/' ? next : FolderOf(current) + '/' + next;
+        current = next.front() == '/' ? next : FolderOf(current).append("/").append(next);
     }
     return current;
 }

@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstddef>
+#include <cstdint>
 #include <limits>
 #include <system_error>
 #include <utility>
@@ -101,6 +102,10 @@ std::string Increment(std::string_view digits)
 std::string RoundedDigits(double magnitude, std::size_t decimals)
 {
     DigitBuffer buffer;
+    constexpr double kAllWhole = 9007199254740992.0;  // 2^53; a double from here on has no fraction
+    if (decimals == 0 && magnitude < kAllWhole && magnitude == std::floor(magnitude)) {
+        return std::to_string(static_cast<std::uint64_t>(magnitude));
+    }
     if (!IsTie(magnitude, decimals)) {
         return std::string(Print(buffer, magnitude, decimals));
     }

@@ -51,17 +51,19 @@ public:
 
 private:
     // Leaves new records unset: a database read from a file is written once, not twice.
+    // NOLINTBEGIN(readability-identifier-naming): names that the standard library asks for
     struct UnsetAllocator : std::allocator<StationRecord> {
         template <typename>
         struct rebind {
             using other = UnsetAllocator;
         };
-        void construct(StationRecord*) const {}
+        void construct(StationRecord* /*place*/) const {}
         void construct(StationRecord* place, const StationRecord& record) const
         {
             std::construct_at(place, record);
         }
     };
+    // NOLINTEND(readability-identifier-naming)
 
     std::vector<StationRecord, UnsetAllocator> records_;
 };
