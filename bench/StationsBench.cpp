@@ -246,7 +246,8 @@ std::vector<StationRecord> ParseBarely(const base::ByteVector& bytes, std::strin
         next = std::from_chars(next, lineEnd, longitude).ptr + 1;
         const auto* tab = static_cast<const char*>(
             std::memchr(next, '\t', static_cast<std::size_t>(lineEnd - next)));
-        const std::string_view text(next, static_cast<std::size_t>((tab ? tab : lineEnd) - next));
+        const std::string_view text(
+            next, static_cast<std::size_t>((tab == nullptr ? lineEnd : tab) - next));
         StationRecord record = EmptyRecord();
         record.SetBytes(Field::Callsign, text);
         record.SetBytes(Field::Name, {});
@@ -354,12 +355,15 @@ void CompareText(const StationDatabase& database)
 }  // namespace stations
 
 int main()
-{
+try {
     const TemporaryFolder folder;
     const stations::StationDatabase database = stations::Stations();
     std::printf("%-58s %12s %12s %7s\n", "with 25000 records", "ours", "peer", "ratio");
     stations::CompareSorting(database);
     stations::CompareFiles(database);
     stations::CompareText(database);
-    return 0;
+    return EXIT_SUCCESS;
+} catch (const std::exception& error) {
+    std::fprintf(stderr, "%s\n", error.what());
+    return EXIT_FAILURE;
 }

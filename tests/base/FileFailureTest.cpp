@@ -85,7 +85,7 @@ ByteView BytesOf(std::string_view text)
 class FileFailureTest : public testing::Test {
 protected:
     FileFailureTest() { PutFile("a", "old"); }
-    ~FileFailureTest() override { fault = {}; }
+    void TearDown() override { fault = {}; }
 
     static std::error_code WriteParts()
     {

@@ -175,6 +175,12 @@ TEST(ImportText, ImportsUpToTheLimitAndNothingBeyond)
     EXPECT_FALSE(Import("nothing to import\n", database).tooMany);
 }
 
+std::string Many(char byte)
+{
+    std::string bytes;
+    return bytes.append(10'000'000, byte);
+}
+
 TEST(ImportText, SurvivesHostileFiles)
 {
     std::string lines;
@@ -185,12 +191,12 @@ TEST(ImportText, SurvivesHostileFiles)
     EXPECT_TRUE(Import(lines, database).tooMany);
     EXPECT_TRUE(database.Empty());
 
-    const std::string digits(10'000'000, '9');
+    const std::string digits = Many('9');
     EXPECT_EQ(Import(digits, database).firstSkipped, (Skipped{{1, SkipReason::NoText}}));
     EXPECT_EQ(Import("A\t" + digits + "\t2", database).firstSkipped,
               (Skipped{{1, SkipReason::LatitudeOutOfRange}}));
-    EXPECT_EQ(Import(std::string(10'000'000, '\t') + "A\t1\t2", database).imported, 1U);
-    EXPECT_EQ(Import(std::string(10'000'000, 'x') + "\t1\t2", database).imported, 1U);
+    EXPECT_EQ(Import(Many('\t') + "A\t1\t2", database).imported, 1U);
+    EXPECT_EQ(Import(Many('x') + "\t1\t2", database).imported, 1U);
     EXPECT_EQ(database[1].Bytes(Field::Callsign), std::string(254, 'x'));
     EXPECT_EQ(Import(std::string(1'000'000, '\r'), database).imported, 0U);
     EXPECT_EQ(Import("", database).imported, 0U);

@@ -97,32 +97,32 @@ TEST_F(WorkingFileTest, TellsWhatIsWrongWithAFile)
     const struct {
         const char* what;
         std::string file;
-        DatabaseStatus status;
         std::size_t records;
+        DatabaseStatus status;
         OldBytes oldBytes;
     } cases[] = {
-        {"whole", HeaderOf(kTwoRecords) + two + kSpare, DatabaseStatus::Complete, 2,
+        {"whole", HeaderOf(kTwoRecords) + two + kSpare, 2, DatabaseStatus::Complete,
          OldBytes::Known},
-        {"no spare", HeaderOf(kTwoRecords) + two, DatabaseStatus::Complete, 2, OldBytes::Known},
-        {"half a spare", HeaderOf(kTwoRecords) + two + "half", DatabaseStatus::Complete, 2,
+        {"no spare", HeaderOf(kTwoRecords) + two, 2, DatabaseStatus::Complete, OldBytes::Known},
+        {"half a spare", HeaderOf(kTwoRecords) + two + "half", 2, DatabaseStatus::Complete,
          OldBytes::Known},
-        {"bytes behind the spare", HeaderOf(kTwoRecords) + two + kSpare + 'x',
-         DatabaseStatus::Complete, 2, OldBytes::Unknown},
-        {"no byte at all", "", DatabaseStatus::New, 0, OldBytes::Known},
-        {"half a header", HeaderOf(kTwoRecords).substr(0, 19), DatabaseStatus::Foreign, 0,
+        {"bytes behind the spare", HeaderOf(kTwoRecords) + two + kSpare + 'x', 2,
+         DatabaseStatus::Complete, OldBytes::Unknown},
+        {"no byte at all", "", 0, DatabaseStatus::New, OldBytes::Known},
+        {"half a header", HeaderOf(kTwoRecords).substr(0, 19), 0, DatabaseStatus::Foreign,
          OldBytes::Unknown},
-        {"foreign mark", HeaderOf(kTwoRecords, "MARK") + two, DatabaseStatus::Foreign, 0,
+        {"foreign mark", HeaderOf(kTwoRecords, "MARK") + two, 0, DatabaseStatus::Foreign,
          OldBytes::Unknown},
-        {"header alone", HeaderOf(kTwoRecords), DatabaseStatus::CutShort, 0, OldBytes::Unknown},
-        {"ends in the second record", HeaderOf(kTwoRecords) + two.substr(0, 579),
-         DatabaseStatus::CutShort, 1, OldBytes::Unknown},
-        {"more records than the file holds", HeaderOf(std::string("\xA8\x61\x00\x00", 4)) + two,
-         DatabaseStatus::CutShort, 2, OldBytes::Unknown},
-        {"25001 records", HeaderOf(std::string("\xA9\x61\x00\x00", 4)) + two,
-         DatabaseStatus::BadCount, 0, OldBytes::Unknown},
-        {"largest count", HeaderOf("\xFF\xFF\xFF\x7F") + two, DatabaseStatus::BadCount, 0,
+        {"header alone", HeaderOf(kTwoRecords), 0, DatabaseStatus::CutShort, OldBytes::Unknown},
+        {"ends in the second record", HeaderOf(kTwoRecords) + two.substr(0, 579), 1,
+         DatabaseStatus::CutShort, OldBytes::Unknown},
+        {"more records than the file holds", HeaderOf(std::string("\xA8\x61\x00\x00", 4)) + two, 2,
+         DatabaseStatus::CutShort, OldBytes::Unknown},
+        {"25001 records", HeaderOf(std::string("\xA9\x61\x00\x00", 4)) + two, 0,
+         DatabaseStatus::BadCount, OldBytes::Unknown},
+        {"largest count", HeaderOf("\xFF\xFF\xFF\x7F") + two, 0, DatabaseStatus::BadCount,
          OldBytes::Unknown},
-        {"negative count", HeaderOf("\xFF\xFF\xFF\xFF") + two, DatabaseStatus::BadCount, 0,
+        {"negative count", HeaderOf("\xFF\xFF\xFF\xFF") + two, 0, DatabaseStatus::BadCount,
          OldBytes::Unknown},
     };
     for (const auto& c : cases) {
