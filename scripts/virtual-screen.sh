@@ -9,7 +9,7 @@ home=$(mktemp -d)
 mkdir -p "$out"
 rm -f "$out"/kompasso.png "$out"/ergebnis.txt
 
-exec 3< <(exec Xvfb -displayfd 1 -screen 0 1280x720x24 -nolisten tcp 2>"$out/xvfb.log")
+exec 3< <(exec Xvfb -displayfd 1 -screen 0 1280x720x24 -nolisten tcp -noreset 2>"$out/xvfb.log")
 xvfb=$!
 trap 'kill "$xvfb" 2>/dev/null || true; rm -rf "$home"' EXIT
 read -r -t 30 display <&3 || { echo "Xvfb did not start, see $out/xvfb.log" >&2; exit 1; }
