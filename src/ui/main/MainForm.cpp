@@ -111,7 +111,7 @@ void MainForm::ConnectPanels()
 
 void MainForm::DrawPictures()
 {
-    PC1->Draw(palette());
+    PC1->Draw(palette(), devicePixelRatioF());
     for (StationPanel* const panel : panel_) {
         panel->Command1->setIcon(PC1->Icon(PictureClip::Load));
         panel->Command4->setIcon(PC1->Icon(PictureClip::Remove));

@@ -8,8 +8,7 @@ namespace ui {
 
 namespace {
 
-constexpr int kUnits = 16;      // a piece is drawn on a square of 16 units
-constexpr int kPieceSize = 64;  // pixels of a piece: sharp up to four times its usual size
+constexpr int kPieceSize = 16;  // pixels, and the units in which a piece is drawn
 
 void DrawArrow(QPainter& painter, QPointF from, QPointF to)
 {
@@ -53,17 +52,18 @@ void DrawPiece(QPainter& painter, PictureClip::Piece piece)
     }
 }
 
-QPixmap NewPicture(const QColor& colour)
+QPixmap NewPicture(const QColor& colour, qreal ratio)
 {
-    QPixmap picture(PictureClip::Pieces * kPieceSize, kPieceSize);
+    const QSize size(PictureClip::Pieces * kPieceSize, kPieceSize);
+    QPixmap picture((QSizeF(size) * ratio).toSize());
+    picture.setDevicePixelRatio(ratio);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(colour, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.scale(static_cast<qreal>(kPieceSize) / kUnits, static_cast<qreal>(kPieceSize) / kUnits);
     for (int piece = 0; piece < PictureClip::Pieces; ++piece) {
         DrawPiece(painter, static_cast<PictureClip::Piece>(piece));
-        painter.translate(kUnits, 0);
+        painter.translate(kPieceSize, 0);
     }
     return picture;
 }
@@ -72,17 +72,18 @@ QPixmap NewPicture(const QColor& colour)
 
 PictureClip::PictureClip(QObject* parent) : QObject(parent) {}
 
-void PictureClip::Draw(const QPalette& palette)
+void PictureClip::Draw(const QPalette& palette, qreal ratio)
 {
-    picture_ = NewPicture(palette.color(QPalette::Active, QPalette::ButtonText));
-    disabledPicture_ = NewPicture(palette.color(QPalette::Disabled, QPalette::ButtonText));
+    picture_ = NewPicture(palette.color(QPalette::Active, QPalette::ButtonText), ratio);
+    disabledPicture_ = NewPicture(palette.color(QPalette::Disabled, QPalette::ButtonText), ratio);
 }
 
 QIcon PictureClip::Icon(Piece piece) const
 {
-    const QRect clip(piece * kPieceSize, 0, kPieceSize, kPieceSize);
-    QIcon icon(picture_.copy(clip));
-    icon.addPixmap(disabledPicture_.copy(clip), QIcon::Disabled);
+    const qreal ratio = picture_.devicePixelRatio();
+    const QRectF clip(piece * kPieceSize * ratio, 0, kPieceSize * ratio, kPieceSize * ratio);
+    QIcon icon(picture_.copy(clip.toAlignedRect()));
+    icon.addPixmap(disabledPicture_.copy(clip.toAlignedRect()), QIcon::Disabled);
     return icon;
 }
 

@@ -18,8 +18,9 @@ public:
 
     explicit PictureClip(QObject* parent = nullptr);
 
-    // Draws the picture anew in the colours of the palette, so that it reads on light and on dark.
-    void Draw(const QPalette& palette);
+    // Draws the picture anew in the colours of the palette, so that it reads on light and on dark,
+    // with `ratio` device pixels for each pixel.
+    void Draw(const QPalette& palette, qreal ratio = 1.0);
 
     QIcon Icon(Piece piece) const;
 

@@ -150,7 +150,7 @@ void StationPanel::AddDegreeMinute(QGridLayout& form)
         const bool latitude = row == 0;
         auto* const line = new QHBoxLayout;
         line->setSpacing(2);
-        int part = 0;
+        std::size_t part = 0;
         for (const Part& p : parts[row]) {
             EntryField* const field = NewField(p.name, p.columns, p.accessibleName);
             this->*p.field = field;
@@ -158,7 +158,7 @@ void StationPanel::AddDegreeMinute(QGridLayout& form)
             if (part < 3) {
                 auto* const unit = new QLabel(window_);
                 unit->setMinimumWidth(unit->fontMetrics().horizontalAdvance(u'H'));
-                unit_[static_cast<std::size_t>((latitude ? 3 : 0) + part)] = unit;
+                unit_[(latitude ? 3U : 0U) + part] = unit;
                 line->addWidget(unit);
             }
             ++part;
