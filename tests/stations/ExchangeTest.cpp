@@ -111,6 +111,24 @@ TEST_F(ExchangeTest, RefusesEveryLengthOfAFileThatLacksARecord)
     EXPECT_EQ(Open("cut.QTH"), ExchangeResult::Done) << "only the spare is missing";
 }
 
+TEST_F(ExchangeTest, SurvivesEveryByteOfTheHeader)
+{
+    for (std::size_t place = 0; place < 20; ++place) {
+        for (const char byte : {'\x00', '\x7F', '\x80', '\xFF'}) {
+            SCOPED_TRACE(testing::Message() << place << ": " << static_cast<int>(byte));
+            PutChanged("changed.QTH", 2, place, byte);
+            database = MakeDatabase({MakeRecord({"X"})});
+            const ExchangeResult appended = AppendFile("changed.QTH", database);
+            EXPECT_TRUE(Callsigns(database).starts_with("X "));
+            EXPECT_TRUE(appended == ExchangeResult::Done || Callsigns(database) == "X ");
+            const std::string before = Callsigns(database);
+            const ExchangeResult opened = Open("changed.QTH");
+            EXPECT_EQ(opened, appended);
+            EXPECT_TRUE(opened == ExchangeResult::Done || Callsigns(database) == before);
+        }
+    }
+}
+
 TEST_F(ExchangeTest, DoesNotOpenAFileWhoseNameTheConfigurationCannotHold)
 {
     std::string deep;

@@ -39,14 +39,15 @@ TEST(Sort, ComparesTextsByTheirBytes)
               "\u00c4 dl1abc Z9 DL1ABC DL1 ");
 }
 
-// Records "a" and "b" that differ in one field alone; `fields` names the fields that a key's
-// comparison goes through, in order: latitude -1, longitude -2.
-TEST(Sort, GoesThroughTheFieldsOfItsKeyOnly)
+// The fields that the comparison under a key goes through: latitude -1, longitude -2, else texts.
+struct KeyFields {
+    ListKey key;
+    std::vector<int> fields;
+};
+
+const std::vector<KeyFields>& AllKeyFields()
 {
-    const struct {
-        ListKey key;
-        std::vector<int> fields;
-    } cases[] = {
+    static const std::vector<KeyFields> all = {
         {ListKey::Callsign, {0, 1, 2, 3}},
         {ListKey::Name, {1, 0, 2, 3}},
         {ListKey::Place, {2, 0, 1, 3}},
@@ -56,55 +57,65 @@ TEST(Sort, GoesThroughTheFieldsOfItsKeyOnly)
         {ListKey::Remark, {4, 0, 1, 2}},
         {ListKey::Date, {5, 0, 1, 2}},
     };
-    // A record whose value in `field` is `value`, and from there on in the chain the opposite.
-    const auto record = [](const std::vector<int>& fields, std::size_t place, int value) {
-        std::array<std::string, 8> texts;
-        texts.fill("1");
-        geo::GeoPosition position = {.latitude = 1.0, .longitude = 1.0};
-        for (std::size_t i = place; i < fields.size(); ++i) {
-            const int here = i == place ? value : 1 - value;
-            if (fields[i] == -1) {
-                position.latitude = here;
-            } else if (fields[i] == -2) {
-                position.longitude = here;
-            } else {
-                texts[static_cast<std::size_t>(fields[i])] = std::to_string(here);
-            }
+    return all;
+}
+
+// A record of ones that has `value` in one field of the chain and the opposite in all fields
+// behind.
+StationRecord RecordWith(const std::vector<int>& fields, std::size_t place, int value)
+{
+    std::array<std::string, 6> texts;
+    texts.fill("1");
+    geo::GeoPosition position = {.latitude = 1.0, .longitude = 1.0};
+    for (std::size_t i = place; i < fields.size(); ++i) {
+        const int here = i == place ? value : 1 - value;
+        if (fields[i] == -1) {
+            position.latitude = here;
+        } else if (fields[i] == -2) {
+            position.longitude = here;
+        } else {
+            texts[static_cast<std::size_t>(fields[i])] = std::to_string(here);
         }
-        return MakeRecord({texts[0], texts[1], texts[2], texts[3], texts[4], texts[5], texts[6]},
-                          position);
-    };
-    for (const auto& c : cases) {
-        for (std::size_t place = 0; place < c.fields.size(); ++place) {
-            SCOPED_TRACE(testing::Message() << static_cast<int>(c.key) << " at " << place);
-            const StationRecord less = record(c.fields, place, 0);
-            const StationRecord greater = record(c.fields, place, 1);
+    }
+    return MakeRecord({texts[0], texts[1], texts[2], texts[3], texts[4], texts[5]}, position);
+}
+
+TEST(Sort, DecidesByTheFirstFieldOfItsKeyThatDiffers)
+{
+    for (const auto& [key, fields] : AllKeyFields()) {
+        for (std::size_t place = 0; place < fields.size(); ++place) {
+            SCOPED_TRACE(testing::Message() << static_cast<int>(key) << " at " << place);
+            const StationRecord less = RecordWith(fields, place, 0);
+            const StationRecord greater = RecordWith(fields, place, 1);
             for (StationDatabase database :
                  {MakeDatabase({less, greater}), MakeDatabase({greater, less})}) {
                 std::vector<double> noKeyValues;
-                Sort(database, c.key, Order::Ascending, noKeyValues);
+                Sort(database, key, Order::Ascending, noKeyValues);
                 EXPECT_EQ(database[0], less);
-                Sort(database, c.key, Order::Descending, noKeyValues);
+                Sort(database, key, Order::Descending, noKeyValues);
                 EXPECT_EQ(database[0], greater);
             }
         }
-        // The other fields do not count: two such records are equal, and equal neighbours swap.
+    }
+}
+
+TEST(Sort, LooksAtNoFieldThatItsKeyDoesNotName)
+{
+    for (const auto& [key, fields] : AllKeyFields()) {
+        SCOPED_TRACE(static_cast<int>(key));
         std::array<std::string, 6> texts;
-        texts.fill("1");
-        std::array<std::string, 6> others = texts;
         for (int field = 0; field < 6; ++field) {
-            if (std::find(c.fields.begin(), c.fields.end(), field) == c.fields.end()) {
-                others[static_cast<std::size_t>(field)] = "0";
-            }
+            const bool named = std::find(fields.begin(), fields.end(), field) != fields.end();
+            texts[static_cast<std::size_t>(field)] = named ? "1" : "0";
         }
-        const auto of = [](const std::array<std::string, 6>& t) {
-            return MakeRecord({t[0], t[1], t[2], t[3], t[4], t[5]});
-        };
-        StationDatabase database = MakeDatabase({of(others), of(texts)});
+        const StationRecord ones = RecordWith(fields, fields.size(), 0);
+        const StationRecord others =
+            MakeRecord({texts[0], texts[1], texts[2], texts[3], texts[4], texts[5]},
+                       {.latitude = 1.0, .longitude = 1.0});
+        StationDatabase database = MakeDatabase({others, ones});
         std::vector<double> noKeyValues;
-        Sort(database, c.key, Order::Ascending, noKeyValues);
-        EXPECT_EQ(database[0], of(texts))
-            << "moved behind its equal though it has the smaller text";
+        Sort(database, key, Order::Ascending, noKeyValues);
+        EXPECT_EQ(database[0], ones) << "two equal neighbours change places";
     }
 }
 
