@@ -11,7 +11,6 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <span>
 #include <string_view>
 #include <utility>
@@ -85,11 +84,12 @@ std::uint64_t OrderedNumber(double value)
 // A number that orders like the first eight bytes of `text`. Texts with equal numbers may differ.
 std::uint64_t OrderedNumber(std::string_view text)
 {
-    std::array<unsigned char, 8> bytes = {};
-    std::memcpy(bytes.data(), text.data(), std::min(text.size(), bytes.size()));
+    const std::string_view leading = text.substr(0, 8);
+    std::array<char, 8> bytes = {};
+    std::copy(leading.begin(), leading.end(), bytes.begin());
     std::uint64_t number = 0;
-    for (const unsigned char byte : bytes) {
-        number = number << 8U | byte;
+    for (const char byte : bytes) {
+        number = number << 8U | static_cast<unsigned char>(byte);
     }
     return number;
 }
