@@ -234,6 +234,7 @@ void CompareFiles(const StationDatabase& database)
 std::vector<StationRecord> ParseBarely(const base::ByteVector& bytes, std::string_view date)
 {
     std::vector<StationRecord> records;
+    records.reserve(kMaxRecords);
     const char* at = reinterpret_cast<const char*>(bytes.data());
     const char* const end = at + bytes.size();
     while (at < end) {
