@@ -1,0 +1,62 @@
+// The inner loops of ForwardBlend, over packs of doubles.
+
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+#include "map/Moments.h"
+#include "map/ParallelBases.h"
+#include "map/Pixel.h"
+#include "map/PlanePoint.h"
+
+namespace map {
+
+// Reference points, filled up to whole packs with points of no weight.
+struct PointArrays {
+    const double* longitude;
+    const double* latitude;
+    const double* x;
+    const double* y;
+    std::size_t size;    // of the points
+    std::size_t filled;  // a multiple of kLanes
+};
+
+// Coordinates that fill a pack up: at this distance a point has the weight 0.
+inline constexpr double kNowhere = 1e160;
+
+// Below this spread, rounding in the sums could reach a millionth of a pixel.
+inline constexpr double kLeastSpread = 1e-3;
+
+// Indices of points of equal longitude.
+struct Column {
+    std::size_t begin;
+    std::size_t end;
+};
+
+struct PointSums {
+    Moments<double> moments;
+    std::size_t count;                                        // of the following
+    std::array<std::uint16_t, kExactPoints + kLanes> inLine;  // perhaps seen along a base
+};
+
+// Sums over all points, a pack of points at a time. `inLine` may name fillers.
+PointSums SumPoints(const PointArrays& points, const ParallelBases& bases,
+                    const Viewpoint<double>& p);
+
+using LaneFlags = std::array<bool, kLanes>;
+
+// The pixels of a pack of positions. False for one that has to be computed by itself: a point may
+// be seen along a base, or the points lie nearly in a line.
+LaneFlags FitPlaces(const PointArrays& points, const ParallelBases& bases,
+                    std::span<const Column> columns, const Viewpoint<Lanes>& p,
+                    std::span<Pixel, kLanes> pixels);
+
+// The sum without the rotations over the bases of columns; three rotations of each triangle else.
+WeightedPixel<double> WithoutColumns(const WeightedPixel<double>& once, const PointArrays& points,
+                                     std::span<const Column> columns,
+                                     const Moments<double>& moments, const Viewpoint<double>& p);
+
+}  // namespace map

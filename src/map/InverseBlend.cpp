@@ -1,0 +1,174 @@
+#include "map/InverseBlend.h"
+
+#include <algorithm>
+
+#include "map/MapMath.h"
+
+namespace map {
+
+void InverseBlend::Prepare(std::span<const ReferencePoint> points)
+{
+    vertices_.clear();
+    places_.clear();
+    rotations_ = 0;
+    for (const ReferencePoint& point : points) {
+        const PlanePoint place = {.x = point.X, .y = point.Y};
+        if (InRange(place) && InRange({.x = point.Longitude, .y = point.Latitude})) {
+            vertices_.push_back(
+                {.place = place, .longitude = point.Longitude, .latitude = point.Latitude});
+            places_.push_back(place);
+        }
+    }
+    bases_.Prepare(places_);
+    if (places_.size() <= kExactPoints) {
+        ForEachTriangle(places_, [this](const Triangle& t, double cross, bool collinear) {
+            if (!collinear) {
+                AddTriangle(t, cross);
+            }
+        });
+    } else if (SurveyTriangles(places_).usable > 0) {
+        for (Vertex& vertex : vertices_) {
+            AddAllTriangles(vertex);
+        }
+        rotations_ = vertices_.size();
+    }
+}
+
+void InverseBlend::AddTriangle(const Triangle& t, double cross)
+{
+    Vertex& i = vertices_[t.i];
+    Vertex& j = vertices_[t.j];
+    Vertex& k = vertices_[t.k];
+    const PlanePoint ij = {.x = j.place.x - i.place.x, .y = j.place.y - i.place.y};
+    const PlanePoint ik = {.x = k.place.x - i.place.x, .y = k.place.y - i.place.y};
+    const double jLongitude = j.longitude - i.longitude;
+    const double kLongitude = k.longitude - i.longitude;
+    const double jLatitude = j.latitude - i.latitude;
+    const double kLatitude = k.latitude - i.latitude;
+    const double weight = cross * cross;
+    const double longitudeX = cross * (jLongitude * ik.y - kLongitude * ij.y);
+    const double longitudeY = cross * (kLongitude * ij.x - jLongitude * ik.x);
+    const double latitudeX = cross * (jLatitude * ik.y - kLatitude * ij.y);
+    const double latitudeY = cross * (kLatitude * ij.x - jLatitude * ik.x);
+    // Each rotation begins at the first end of its base, in cyclic order; vertical bases drop out.
+    const auto add = [&](Vertex& first, const Vertex& second) {
+        if (first.place.x == second.place.x) {
+            return;
+        }
+        ++rotations_;
+        first.weight += weight;
+        first.longitudeX += longitudeX;
+        first.longitudeY += longitudeY;
+        first.latitudeX += latitudeX;
+        first.latitudeY += latitudeY;
+    };
+    add(j, k);
+    add(k, i);
+    add(i, j);
+}
+
+// For a table too large to go through its triangles: their sum in closed form, with x and y from
+// the vertex. Vertical bases and collinear triples are left in.
+void InverseBlend::AddAllTriangles(Vertex& vertex) const
+{
+    using Extended = long double;
+    Extended xx = 0;
+    Extended xy = 0;
+    Extended yy = 0;
+    Extended xLongitude = 0;
+    Extended yLongitude = 0;
+    Extended xLatitude = 0;
+    Extended yLatitude = 0;
+    for (const Vertex& other : vertices_) {
+        const Extended x = static_cast<Extended>(other.place.x) - vertex.place.x;
+        const Extended y = static_cast<Extended>(other.place.y) - vertex.place.y;
+        const Extended longitude = static_cast<Extended>(other.longitude) - vertex.longitude;
+        const Extended latitude = static_cast<Extended>(other.latitude) - vertex.latitude;
+        xx += x * x;
+        xy += x * y;
+        yy += y * y;
+        xLongitude += x * longitude;
+        yLongitude += y * longitude;
+        xLatitude += x * latitude;
+        yLatitude += y * latitude;
+    }
+    vertex.weight = static_cast<double>(xx * yy - xy * xy);
+    vertex.longitudeX = static_cast<double>(yy * xLongitude - xy * yLongitude);
+    vertex.longitudeY = static_cast<double>(xx * yLongitude - xy * xLongitude);
+    vertex.latitudeX = static_cast<double>(yy * xLatitude - xy * yLatitude);
+    vertex.latitudeY = static_cast<double>(xx * yLatitude - xy * xLatitude);
+}
+
+geo::GeoPosition InverseBlend::At(Pixel pixel) const
+{
+    if (rotations_ == 0) {
+        return {};
+    }
+    const PlanePoint p = {.x = std::clamp(pixel.x, -kFarthestPoint, kFarthestPoint),
+                          .y = std::clamp(pixel.y, -kFarthestPoint, kFarthestPoint)};
+    const DirectionFilter filter = bases_.Filter();
+    Sum sum;
+    for (std::size_t i = 0; i < vertices_.size(); ++i) {
+        const Vertex& v = vertices_[i];
+        const double dx = p.x - v.place.x;
+        const double dy = p.y - v.place.y;
+        const double weight = InverseSquare(dx, dy);
+        sum.weight += weight * v.weight;
+        sum.longitude += weight * (v.weight * v.longitude + v.longitudeX * dx + v.longitudeY * dy);
+        sum.latitude += weight * (v.weight * v.latitude + v.latitudeX * dx + v.latitudeY * dy);
+        if (filter.Bit(static_cast<std::int32_t>(weight * dx * dx * DirectionFilter::kScale)) != 0
+            || (dx == 0.0 && dy == 0.0)) {
+            SubtractParallel(sum, p, i);
+        }
+    }
+    if (sum.weight == 0.0 || sum.leftOut == rotations_) {
+        return {};
+    }
+    return {.latitude = sum.latitude / sum.weight, .longitude = sum.longitude / sum.weight};
+}
+
+void InverseBlend::SubtractParallel(Sum& sum, PlanePoint p, std::size_t apex) const
+{
+    const PlanePoint c = places_[apex];
+    if (p.x == c.x && p.y == c.y) {
+        // Beside the rotations that begin here, with the weight 1e40, those that end here vanish.
+        if (vertices_[apex].weight == 0.0) {
+            for (const auto& base : bases_.All()) {
+                Subtract(sum, p, base.a, base.b, apex);
+            }
+        }
+        return;
+    }
+    for (const auto& base : bases_.Near(p.x - c.x, p.y - c.y)) {
+        if (ExactlyParallel(p, c, places_[base.a], places_[base.b])) {
+            Subtract(sum, p, base.a, base.b, apex);
+        }
+    }
+}
+
+void InverseBlend::Subtract(Sum& sum, PlanePoint p, std::size_t a, std::size_t b,
+                            std::size_t apex) const
+{
+    if (a == apex || b == apex) {
+        return;
+    }
+    const Vertex& va = vertices_[a];
+    const Vertex& vb = vertices_[b];
+    const Vertex& vc = vertices_[apex];
+    const double cross = Cross(va.place, vb.place, vc.place);
+    if (Collinear(va.place, vb.place, vc.place, cross)) {
+        return;
+    }
+    // With a < b, the cyclic order of the three begins the base at b only around an apex between.
+    const PlanePoint first = a < apex && apex < b ? vb.place : va.place;
+    const double weight = InverseSquare(first.x - p.x, first.y - p.y) * cross;
+    const double ofA = Cross(p, vb.place, vc.place);
+    const double ofB = Cross(va.place, p, vc.place);
+    const double ofC = Cross(va.place, vb.place, p);
+    sum.weight -= weight * cross;
+    sum.longitude -= weight * (ofA * va.longitude + ofB * vb.longitude + ofC * vc.longitude);
+    sum.latitude -= weight * (ofA * va.latitude + ofB * vb.latitude + ofC * vc.latitude);
+    ++sum.leftOut;
+}
+
+}  // namespace map

@@ -1,0 +1,97 @@
+#include "map/BlendAgreement.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <iomanip>
+#include <limits>
+
+#include "map/ExactBlend.h"
+#include "map/ForwardBlend.h"
+#include "map/InverseBlend.h"
+#include "map/TriangleBlend.h"
+
+namespace map {
+
+namespace {
+
+// Infinite when only one of the two is a number, so that no comparison passes by NaN.
+double Distance(double a, double b)
+{
+    const double distance = std::fabs(a - b);
+    return std::isnan(distance) ? std::numeric_limits<double>::infinity() : distance;
+}
+
+// Results beyond the 16-bit range end at its limits, so that only their side counts.
+double InRange(double pixel)
+{
+    return std::isnan(pixel) ? pixel : std::clamp(pixel, -33000.0, 33000.0);
+}
+
+double Distance(Pixel a, Pixel b)
+{
+    return std::max(Distance(InRange(a.x), InRange(b.x)), Distance(InRange(a.y), InRange(b.y)));
+}
+
+double Distance(geo::GeoPosition a, geo::GeoPosition b)
+{
+    return std::max(Distance(a.latitude, b.latitude), Distance(a.longitude, b.longitude));
+}
+
+template <typename Result, typename Exact>
+testing::AssertionResult Agrees(Result prepared, Result literal, double bound, Exact exact)
+{
+    const double distance = Distance(prepared, literal);
+    if (distance <= bound) {
+        return testing::AssertionSuccess();
+    }
+    const Result judge = exact();
+    if (Distance(literal, judge) > bound / 10.0 && Distance(prepared, judge) <= bound) {
+        return testing::AssertionSuccess();
+    }
+    return testing::AssertionFailure() << "prepared off the step-by-step form by " << distance
+                                       << ", off the exact result by " << Distance(prepared, judge)
+                                       << ", the step-by-step form by " << Distance(literal, judge);
+}
+
+}  // namespace
+
+testing::AssertionResult ForwardAgrees(std::span<const ReferencePoint> points,
+                                       std::span<const geo::GeoPosition> positions)
+{
+    ForwardBlend blend;
+    blend.Prepare(points);
+    std::vector<Pixel> many(positions.size());
+    blend.At(positions, many);
+    for (std::size_t i = 0; i < positions.size(); ++i) {
+        const geo::GeoPosition position = positions[i];
+        const Pixel literal = TriangleBlendToPixel(points, position);
+        for (const Pixel prepared : {blend.At(position), many[i]}) {
+            auto result = Agrees(prepared, literal, kPixelBound,
+                                 [&] { return ExactToPixel(points, position); });
+            if (!result) {
+                return result << std::setprecision(17) << " at " << position.latitude << '/'
+                              << position.longitude << " with " << points.size() << " points";
+            }
+        }
+    }
+    return testing::AssertionSuccess();
+}
+
+testing::AssertionResult InverseAgrees(std::span<const ReferencePoint> points,
+                                       std::span<const Pixel> pixels)
+{
+    InverseBlend blend;
+    blend.Prepare(points);
+    for (const Pixel pixel : pixels) {
+        auto result = Agrees(blend.At(pixel), TriangleBlendToGeo(points, pixel), kDegreeBound,
+                             [&] { return ExactToGeo(points, pixel); });
+        if (!result) {
+            return result << " at pixel " << pixel.x << '/' << pixel.y << " with " << points.size()
+                          << " points";
+        }
+    }
+    return testing::AssertionSuccess();
+}
+
+}  // namespace map
