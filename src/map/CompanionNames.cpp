@@ -46,7 +46,7 @@ std::optional<std::string> CompanionName(std::string_view imageName, Companion c
 std::optional<std::string> CompanionName(std::string_view imageName, Companion companion,
                                          std::span<const std::string> folder)
 {
-    const std::optional<std::string> capitals = CompanionName(imageName, companion);
+    std::optional<std::string> capitals = CompanionName(imageName, companion);
     if (!capitals) {
         return std::nullopt;
     }
