@@ -1,22 +1,44 @@
 #include "map/FewTriangles.h"
 
-#include <cmath>
-
+#include "map/Lanes.h"
 #include "map/Moments.h"
 #include "map/ParallelBases.h"
 
 namespace map {
 
+namespace {
+
+static_assert(FewTriangles::kMost == kLanes, "one triangle to a lane");
+
+// Products of equal sides may differ by less than this part but for rounding.
+constexpr double kRounding = 1e-14;
+
+using LaneMask = std::int64_t __attribute__((vector_size(32)));
+
+[[gnu::always_inline]] inline Lanes Magnitude(const Lanes& v)
+{
+    return v < 0.0 ? -v : v;
+}
+
+}  // namespace
+
+void FewTriangles::Clear()
+{
+    *this = FewTriangles();
+}
+
 void FewTriangles::Add(const ReferencePoint& a, const ReferencePoint& b, const ReferencePoint& c)
 {
-    Prepared& t = triangles_[size_++];
-    t.corner = {{{a.Longitude, a.Latitude}, {b.Longitude, b.Latitude}, {c.Longitude, c.Latitude}}};
-    t.rotations = 0;
-    for (std::size_t i = 0; i < 3; ++i) {
-        const PlanePoint from = t.corner[(i + 1) % 3];
-        const PlanePoint to = t.corner[(i + 2) % 3];
-        t.base[i] = {to.x - from.x, to.y - from.y};
-        t.rotations += t.base[i].x != 0.0 ? 1 : 0;
+    const ReferencePoint* const points[] = {&a, &b, &c};
+    const std::size_t i = size_++;
+    for (std::size_t r = 0; r < 3; ++r) {
+        const ReferencePoint& from = *points[(r + 1) % 3];
+        const ReferencePoint& to = *points[(r + 2) % 3];
+        corners_[r].x[i] = points[r]->Longitude;
+        corners_[r].y[i] = points[r]->Latitude;
+        corners_[r].baseX[i] = to.Longitude - from.Longitude;
+        corners_[r].baseY[i] = to.Latitude - from.Latitude;
+        rotations_[i] += corners_[r].baseX[i] != 0.0 ? 1.0 : 0.0;
     }
     // Extended precision: a thin triangle magnifies every error of its map.
     using Extended = long double;
@@ -28,53 +50,64 @@ void FewTriangles::Add(const ReferencePoint& a, const ReferencePoint& b, const R
     const auto slope = [cross](Extended first, Extended second) {
         return static_cast<double>((first - second) / cross);
     };
-    t.areaSquared = static_cast<double>(cross * cross / 4);
-    t.x = a.X;
-    t.y = a.Y;
-    t.xx = slope((b.X - a.X) * cy, (c.X - a.X) * by);
-    t.xy = slope((c.X - a.X) * bx, (b.X - a.X) * cx);
-    t.yx = slope((b.Y - a.Y) * cy, (c.Y - a.Y) * by);
-    t.yy = slope((c.Y - a.Y) * bx, (b.Y - a.Y) * cx);
+    areaSquared_[i] = static_cast<double>(cross * cross / 4);
+    x_[i] = a.X;
+    y_[i] = a.Y;
+    xx_[i] = slope((b.X - a.X) * cy, (c.X - a.X) * by);
+    xy_[i] = slope((c.X - a.X) * bx, (b.X - a.X) * cx);
+    yx_[i] = slope((b.Y - a.Y) * cy, (c.Y - a.Y) * by);
+    yy_[i] = slope((c.Y - a.Y) * bx, (b.Y - a.Y) * cx);
 }
 
-int FewTriangles::LeftOut(const Prepared& triangle, PlanePoint p)
+// Rotations of a triangle whose line from the apex through P is parallel to the base.
+double FewTriangles::LeftOut(std::size_t triangle, PlanePoint p) const
 {
-    int count = 0;
-    for (std::size_t i = 0; i < 3; ++i) {
-        const PlanePoint apex = triangle.corner[i];
-        const PlanePoint base = triangle.base[i];
-        const double first = (p.x - apex.x) * base.y;
-        const double second = (p.y - apex.y) * base.x;
-        const bool close = std::fabs(first - second) <= 1e-14 * std::fabs(first);
-        if (close && base.x != 0.0
-            && ExactlyParallel(p, apex, triangle.corner[(i + 1) % 3],
-                               triangle.corner[(i + 2) % 3])) {
-            ++count;
+    double count = 0.0;
+    for (std::size_t r = 0; r < 3; ++r) {
+        const auto corner = [this, triangle, r](std::size_t next) {
+            const Corner& c = corners_[(r + next) % 3];
+            return PlanePoint{.x = c.x[triangle], .y = c.y[triangle]};
+        };
+        if (corners_[r].baseX[triangle] != 0.0
+            && ExactlyParallel(p, corner(0), corner(1), corner(2))) {
+            count += 1.0;
         }
     }
     return count;
 }
 
-Pixel FewTriangles::At(PlanePoint p) const
+// All triangles at once, one to a lane.
+KOMPASSO_WIDE Pixel FewTriangles::At(PlanePoint p) const
 {
-    double weight = 0.0;
-    double x = 0.0;
-    double y = 0.0;
-    for (std::size_t i = 0; i < size_; ++i) {
-        const Prepared& t = triangles_[i];
-        const double dx = p.x - t.corner[0].x;
-        const double dy = p.y - t.corner[0].y;
-        const double w = PointWeight(dx, dy) * PointWeight(p.x - t.corner[1].x, p.y - t.corner[1].y)
-                         * PointWeight(p.x - t.corner[2].x, p.y - t.corner[2].y) * t.areaSquared
-                         * (t.rotations - LeftOut(t, p));
-        weight += w;
-        x += w * (t.x + t.xx * dx + t.xy * dy);
-        y += w * (t.y + t.yx * dx + t.yy * dy);
+    const Lanes px = Broadcast(p.x);
+    const Lanes py = Broadcast(p.y);
+    Lanes weight = Load(areaSquared_.data());
+    LaneMask parallel = {};
+    for (const Corner& corner : corners_) {
+        const Lanes dx = px - Load(corner.x.data());
+        const Lanes dy = py - Load(corner.y.data());
+        weight *= PointWeight(dx, dy);
+        const Lanes baseX = Load(corner.baseX.data());
+        const Lanes first = dx * Load(corner.baseY.data());
+        const Lanes second = dy * baseX;
+        parallel |= (Magnitude(first - second) <= kRounding * Magnitude(first)) & (baseX != 0.0);
     }
-    if (weight == 0.0) {
+    Lanes rotations = Load(rotations_.data());
+    if ((parallel[0] | parallel[1] | parallel[2] | parallel[3]) != 0) {
+        for (std::size_t i = 0; i < size_; ++i) {
+            rotations[i] -= LeftOut(i, p);
+        }
+    }
+    weight *= rotations;
+    const Lanes dx = px - Load(corners_[0].x.data());
+    const Lanes dy = py - Load(corners_[0].y.data());
+    const Lanes x = Load(x_.data()) + Load(xx_.data()) * dx + Load(xy_.data()) * dy;
+    const Lanes y = Load(y_.data()) + Load(yx_.data()) * dx + Load(yy_.data()) * dy;
+    const double sum = SumOf(weight);
+    if (sum == 0.0) {
         return {};
     }
-    return {.x = x / weight, .y = y / weight};
+    return {.x = SumOf(weight * x) / sum, .y = SumOf(weight * y) / sum};
 }
 
 }  // namespace map

@@ -5,8 +5,6 @@
 
 #include <array>
 #include <cstddef>
-#include <cstdint>
-#include <span>
 
 #include "map/Pixel.h"
 #include "map/PlanePoint.h"
@@ -18,30 +16,33 @@ class FewTriangles {
 public:
     static constexpr std::size_t kMost = 4;
 
-    void Clear() { size_ = 0; }
-    bool Empty() const { return size_ == 0; }
+    void Clear();
 
     // Adds the triangle of three points that are not collinear; at most kMost times.
     void Add(const ReferencePoint& a, const ReferencePoint& b, const ReferencePoint& c);
 
-    // Pixel of a position in degrees; 0/0 when every rotation is left out.
+    // Pixel of a position in degrees; 0/0 when there is no triangle or every rotation is left out.
     Pixel At(PlanePoint p) const;
 
 private:
-    struct Prepared {
-        std::array<PlanePoint, 3> corner;
-        std::array<PlanePoint, 3> base;  // the side opposite to the corner
-        int rotations;                   // that no vertical base rules out
-        double areaSquared;
-        double x, y;    // pixel of corner 0
-        double xx, xy;  // change of the pixel's x per degree of longitude, of latitude
-        double yx, yy;
+    // A number of each triangle, 0 for those that there are not.
+    using Row = std::array<double, kMost>;
+
+    // A corner and the side opposite to it.
+    struct Corner {
+        Row x, y;
+        Row baseX, baseY;
     };
 
-    static int LeftOut(const Prepared& triangle, PlanePoint p);
+    double LeftOut(std::size_t triangle, PlanePoint p) const;
 
-    std::array<Prepared, kMost> triangles_;
     std::size_t size_ = 0;
+    std::array<Corner, 3> corners_ = {};
+    Row rotations_ = {};  // that no vertical base rules out
+    Row areaSquared_ = {};
+    Row x_ = {}, y_ = {};    // pixel of the first corner
+    Row xx_ = {}, xy_ = {};  // change of its x per degree of longitude, of latitude
+    Row yx_ = {}, yy_ = {};
 };
 
 }  // namespace map

@@ -6,6 +6,8 @@
 #include <limits>
 
 #include "map/Elimination.h"
+#include "map/ForwardSums.h"
+#include "map/Moments.h"
 
 namespace map {
 

@@ -16,8 +16,6 @@
 
 #include "geo/GeoPosition.h"
 #include "map/FewTriangles.h"
-#include "map/ForwardSums.h"
-#include "map/Moments.h"
 #include "map/ParallelBases.h"
 #include "map/Pixel.h"
 #include "map/PlanePoint.h"
@@ -25,6 +23,12 @@
 #include "map/TriangleSurvey.h"
 
 namespace map {
+
+struct PointArrays;
+template <typename V>
+struct Viewpoint;
+template <typename V>
+struct WeightedPixel;
 
 class ForwardBlend {
 public:

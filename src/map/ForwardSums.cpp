@@ -4,51 +4,77 @@ namespace map {
 
 namespace {
 
-// The inner loops exist twice, the faster for processors with four doubles to a register. Both do
-// the same arithmetic in the same order.
-#if defined(__x86_64__)
-#define KOMPASSO_WIDE __attribute__((target_clones("avx2", "default")))
-#else
-#define KOMPASSO_WIDE
-#endif
-
-[[gnu::always_inline]] inline Lanes Load(const double* values)
-{
-    return Lanes{values[0], values[1], values[2], values[3]};
-}
-
-[[gnu::always_inline]] inline Lanes Broadcast(double value)
-{
-    return Lanes{value, value, value, value};
-}
-
-[[gnu::always_inline]] inline double SumOf(const Lanes& v)
-{
-    return (v[0] + v[2]) + (v[1] + v[3]);
-}
-
-[[gnu::always_inline]] inline Moments<double> SumOf(const Moments<Lanes>& m)
+[[gnu::always_inline]] inline Moments<double> TotalOf(const Moments<Lanes>& m)
 {
     return {SumOf(m.one), SumOf(m.x), SumOf(m.y),  SumOf(m.xx), SumOf(m.xy), SumOf(m.yy),
             SumOf(m.u),   SumOf(m.v), SumOf(m.xu), SumOf(m.yu), SumOf(m.xv), SumOf(m.yv)};
 }
 
-// Which of a pack of directions a base may have.
-struct LanesPossible {
-    std::array<std::uint32_t, kLanes> lane;  // 0 or 1
-    bool any;
+// Which directions of a pack a base may have.
+struct PackFilter {
+    LaneIndices step;
+    std::uint32_t any;
+
+    [[gnu::always_inline]] PackFilter(const DirectionFilter& filter, const Lanes& cosine2)
+        : step(__builtin_convertvector(cosine2 * DirectionFilter::kScale, LaneIndices)),
+          any(filter.Perhaps(step[0]) | filter.Perhaps(step[1]) | filter.Perhaps(step[2])
+              | filter.Perhaps(step[3]))
+    {
+    }
 };
 
-[[gnu::always_inline]] inline LanesPossible PossibleIn(const DirectionFilter& filter,
-                                                       const Lanes& cosine2)
+// SumPoints from an origin known before.
+template <Origin origin>
+[[gnu::always_inline]] inline void AddPoints(PointSums& sums, const PointArrays& from,
+                                             const DirectionFilter& filter,
+                                             const Viewpoint<double>& p)
 {
-    const LaneIndices index =
-        __builtin_convertvector(cosine2 * DirectionFilter::kScale, LaneIndices);
-    LanesPossible possible = {
-        {filter.Bit(index[0]), filter.Bit(index[1]), filter.Bit(index[2]), filter.Bit(index[3])},
-        false};
-    possible.any = (possible.lane[0] | possible.lane[1] | possible.lane[2] | possible.lane[3]) != 0;
-    return possible;
+    const Viewpoint<Lanes> view = {Broadcast(p.x), Broadcast(p.y), Broadcast(p.fromOriginX),
+                                   Broadcast(p.fromOriginY)};
+    Moments<Lanes> moments;
+    for (std::size_t i = 0; i < from.filled; i += kLanes) {
+        const Lanes cosine2 =
+            moments.Add<origin>(view, Load(from.longitude + i), Load(from.latitude + i),
+                                Load(from.x + i), Load(from.y + i));
+        const PackFilter pack(filter, cosine2);
+        for (std::size_t lane = 0; pack.any != 0 && lane < kLanes; ++lane) {
+            if (filter.Possible(pack.step[lane])) {
+                sums.inLine[sums.count++] = static_cast<std::uint16_t>(i + lane);
+            }
+        }
+    }
+    sums.moments = TotalOf(moments);
+}
+
+struct LaneSums {
+    Moments<Lanes> moments;
+    LaneFlags inLine;  // whether a point is seen along a base, but for rounding
+};
+
+template <Origin origin>
+[[gnu::always_inline]] inline void AddPoints(LaneSums& sums, const PointArrays& from,
+                                             const ParallelBases& bases, const Viewpoint<Lanes>& p)
+{
+    const DirectionFilter filter = bases.Filter();
+    Moments<Lanes> moments;
+    for (std::size_t i = 0; i < from.size; ++i) {
+        const Lanes cosine2 =
+            moments.Add<origin>(p, Broadcast(from.longitude[i]), Broadcast(from.latitude[i]),
+                                Broadcast(from.x[i]), Broadcast(from.y[i]));
+        const PackFilter pack(filter, cosine2);
+        for (std::size_t lane = 0; pack.any != 0 && lane < kLanes; ++lane) {
+            if (filter.Possible(pack.step[lane])
+                && bases.HasNear(p.x[lane] - from.longitude[i], p.y[lane] - from.latitude[i])) {
+                sums.inLine[lane] = true;
+            }
+        }
+    }
+    sums.moments = moments;
+}
+
+[[gnu::always_inline]] inline bool IsZero(const Lanes& v)
+{
+    return v[0] == 0.0 && v[1] == 0.0 && v[2] == 0.0 && v[3] == 0.0;
 }
 
 // Three times `sum` without what the columns' bases contribute to it once.
@@ -84,60 +110,35 @@ LessColumns(WeightedPixel<V> sum, const PointArrays& points, std::span<const Col
 KOMPASSO_WIDE PointSums SumPoints(const PointArrays& points, const ParallelBases& bases,
                                   const Viewpoint<double>& p)
 {
-    const PointArrays from = points;
-    const DirectionFilter filter = bases.Filter();
-    const Viewpoint<Lanes> view = {Broadcast(p.x), Broadcast(p.y), Broadcast(p.fromOriginX),
-                                   Broadcast(p.fromOriginY)};
-    Moments<Lanes> moments;
     PointSums sums;
     sums.count = 0;
-    for (std::size_t i = 0; i < from.filled; i += kLanes) {
-        const Lanes cosine2 = moments.Add(view, Load(from.longitude + i), Load(from.latitude + i),
-                                          Load(from.x + i), Load(from.y + i));
-        const LanesPossible possible = PossibleIn(filter, cosine2);
-        if (possible.any) {
-            for (std::size_t lane = 0; lane < kLanes; ++lane) {
-                sums.inLine[sums.count] = static_cast<std::uint16_t>(i + lane);
-                sums.count += possible.lane[lane];
-            }
-        }
+    if (p.fromOriginX == 0.0 && p.fromOriginY == 0.0) {
+        AddPoints<Origin::AtP>(sums, points, bases.Filter(), p);
+    } else {
+        AddPoints<Origin::AtMiddle>(sums, points, bases.Filter(), p);
     }
-    sums.moments = SumOf(moments);
     return sums;
 }
 
 KOMPASSO_WIDE LaneFlags FitPlaces(const PointArrays& points, const ParallelBases& bases,
-                                  std::span<const Column> columns, const Viewpoint<Lanes>& place,
+                                  std::span<const Column> columns, const Viewpoint<Lanes>& p,
                                   std::span<Pixel, kLanes> pixels)
 {
-    const PointArrays from = points;
-    const DirectionFilter filter = bases.Filter();
-    const Viewpoint<Lanes> p = place;
-    Moments<Lanes> moments;
-    LaneFlags inLine{};
-    for (std::size_t i = 0; i < from.size; ++i) {
-        const Lanes cosine2 =
-            moments.Add(p, Broadcast(from.longitude[i]), Broadcast(from.latitude[i]),
-                        Broadcast(from.x[i]), Broadcast(from.y[i]));
-        const LanesPossible possible = PossibleIn(filter, cosine2);
-        if (possible.any) {
-            for (std::size_t lane = 0; lane < kLanes; ++lane) {
-                if (possible.lane[lane] != 0
-                    && bases.HasNear(place.x[lane] - from.longitude[i],
-                                     place.y[lane] - from.latitude[i])) {
-                    inLine[lane] = true;
-                }
-            }
-        }
+    LaneSums sums = {};
+    if (IsZero(p.fromOriginX) && IsZero(p.fromOriginY)) {
+        AddPoints<Origin::AtP>(sums, points, bases, p);
+    } else {
+        AddPoints<Origin::AtMiddle>(sums, points, bases, p);
     }
-    const Fit<Lanes> fit = FitOf(moments, p);
-    const WeightedPixel<Lanes> sum = LessColumns(fit.sum, points, columns, moments, p, Broadcast);
+    const Fit<Lanes> fit = FitOf(sums.moments, p);
+    const WeightedPixel<Lanes> sum =
+        LessColumns(fit.sum, points, columns, sums.moments, p, Broadcast);
     const Lanes x = sum.x / sum.weight;
     const Lanes y = sum.y / sum.weight;
     LaneFlags done{};
     for (std::size_t lane = 0; lane < kLanes; ++lane) {
         pixels[lane] = {.x = x[lane], .y = y[lane]};
-        done[lane] = fit.spread[lane] > kLeastSpread && !inLine[lane];
+        done[lane] = fit.spread[lane] > kLeastSpread && !sums.inLine[lane];
     }
     return done;
 }

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <span>
 
+#include "map/Lanes.h"
 #include "map/Moments.h"
 #include "map/ParallelBases.h"
 #include "map/Pixel.h"
@@ -29,12 +30,6 @@ inline constexpr double kNowhere = 1e160;
 
 // Below this spread, rounding in the sums could reach a millionth of a pixel.
 inline constexpr double kLeastSpread = 1e-3;
-
-// Indices of points of equal longitude.
-struct Column {
-    std::size_t begin;
-    std::size_t end;
-};
 
 struct PointSums {
     Moments<double> moments;

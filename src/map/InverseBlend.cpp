@@ -116,7 +116,7 @@ geo::GeoPosition InverseBlend::At(Pixel pixel) const
         sum.weight += weight * v.weight;
         sum.longitude += weight * (v.weight * v.longitude + v.longitudeX * dx + v.longitudeY * dy);
         sum.latitude += weight * (v.weight * v.latitude + v.latitudeX * dx + v.latitudeY * dy);
-        if (filter.Bit(static_cast<std::int32_t>(weight * dx * dx * DirectionFilter::kScale)) != 0
+        if (filter.Possible(static_cast<std::int32_t>(weight * dx * dx * DirectionFilter::kScale))
             || (dx == 0.0 && dy == 0.0)) {
             SubtractParallel(sum, p, i);
         }

@@ -9,16 +9,7 @@
 
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
-
-#include "map/Pixel.h"
-
 namespace map {
-
-using Lanes = double __attribute__((vector_size(32)));
-using LaneIndices = std::int32_t __attribute__((vector_size(16)));
-inline constexpr std::size_t kLanes = sizeof(Lanes) / sizeof(double);
 
 // Closer than this, squared, a point counts as coincident, and its weight is 1e40: so no weight
 // can overflow. Larger weights would not change the result.
@@ -30,6 +21,12 @@ template <typename V>
     const V distance2 = dx * dx + dy * dy;
     return 1.0 / (distance2 < kCoincident ? V{} + 1e-40 : distance2);
 }
+
+// Where the places in the sums begin.
+enum class Origin {
+    AtP,
+    AtMiddle,
+};
 
 // Where a point is evaluated: P itself, and P as seen from the origin of the sums. The origin is P
 // for all points near the table, so that a point's distance and its place in the sums come from the
@@ -48,20 +45,22 @@ struct Moments {
     V one{}, x{}, y{}, xx{}, xy{}, yy{}, u{}, v{}, xu{}, yu{}, xv{}, yv{};
 
     // Adds one reference point; its squared cosine of the direction from P, 0 for P itself.
+    template <Origin origin>
     [[gnu::always_inline]] V Add(const Viewpoint<V>& p, const V& pointX, const V& pointY,
                                  const V& pointU, const V& pointV)
     {
         const V dx = pointX - p.x;
         const V dy = pointY - p.y;
         const V weight = PointWeight(dx, dy);
-        const V placeX = dx + p.fromOriginX;
-        const V placeY = dy + p.fromOriginY;
+        const V placeX = origin == Origin::AtP ? dx : dx + p.fromOriginX;
+        const V placeY = origin == Origin::AtP ? dy : dy + p.fromOriginY;
         const V weightedX = weight * placeX;
         const V weightedY = weight * placeY;
+        const V weightedXX = weightedX * placeX;
         one += weight;
         x += weightedX;
         y += weightedY;
-        xx += weightedX * placeX;
+        xx += weightedXX;
         xy += weightedX * placeY;
         yy += weightedY * placeY;
         u += weight * pointU;
@@ -70,7 +69,7 @@ struct Moments {
         yu += weightedY * pointU;
         xv += weightedX * pointV;
         yv += weightedY * pointV;
-        return weight * dx * dx;
+        return origin == Origin::AtP ? weightedXX : weight * dx * dx;
     }
 };
 

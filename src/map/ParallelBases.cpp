@@ -79,6 +79,11 @@ void AddProduct(ExactSum& sum, Exact a, Exact b, double sign)
     }
 }
 
+void SetBit(std::vector<std::uint32_t>& table, std::uint32_t bit)
+{
+    table[bit / 32] |= 1U << (bit % 32);
+}
+
 }  // namespace
 
 bool ExactlyParallel(PlanePoint p, PlanePoint c, PlanePoint a, PlanePoint b)
@@ -107,8 +112,10 @@ void ParallelBases::Prepare(std::span<const PlanePoint> points)
               [](const Base& left, const Base& right) { return left.slope < right.slope; });
 
     const std::size_t bits = std::bit_ceil(std::max<std::size_t>(bases_.size() * kBitsPerBase, 64));
-    bits_.assign(bits / 32, 0);
+    low_.assign(bits / 32, 0);
+    high_.assign(bits / 32, 0);
     mask_ = static_cast<std::uint32_t>(bits - 1);
+    shift_ = DirectionFilter::kScaleBits - static_cast<std::uint32_t>(std::countr_zero(bits));
     for (const Base& base : bases_) {
         Mark(1.0 / (1.0 + base.slope * base.slope));
     }
@@ -119,8 +126,8 @@ void ParallelBases::Mark(double cosineSquared)
     for (const double rounded : {cosineSquared - kRounding, cosineSquared + kRounding}) {
         const auto step =
             static_cast<std::uint32_t>(std::max(rounded, 0.0) * DirectionFilter::kScale);
-        const std::uint32_t bit = step & mask_;
-        bits_[bit / 32] |= 1U << (bit % 32);
+        SetBit(low_, step & mask_);
+        SetBit(high_, (step >> shift_) & mask_);
     }
 }
 

@@ -20,20 +20,34 @@ namespace map {
 // Coordinates beyond InRange and differences below 1e-140 may be judged wrongly.
 bool ExactlyParallel(PlanePoint p, PlanePoint c, PlanePoint a, PlanePoint b);
 
-// Bits by direction: clear for nearly every direction that no base has, set for each that one has.
-// Directions that differ by the whole length of the table share a bit, which spreads the bases
-// evenly over it.
+// Two tables of bits by direction: clear for nearly every direction that no base has, set for each
+// that one has. The first takes the low, the second the high places of the squared cosine, the
+// first of which spread the bases evenly.
 struct DirectionFilter {
     static constexpr double kScale = 1073741824.0;  // 2^30 steps of the squared cosine
+    static constexpr std::uint32_t kScaleBits = 30;
 
-    const std::uint32_t* bits;
-    std::uint32_t mask;
+    const std::uint32_t* low;
+    const std::uint32_t* high;
+    std::uint32_t mask;   // the number of bits of a table less 1
+    std::uint32_t shift;  // from a step to its high places
 
-    // `step` is the squared cosine times kScale.
-    std::uint32_t Bit(std::int32_t step) const
+    static std::uint32_t BitOf(const std::uint32_t* table, std::uint32_t bit)
     {
-        const std::uint32_t bit = static_cast<std::uint32_t>(step) & mask;
-        return bits[bit / 32] >> (bit % 32) & 1U;
+        return table[bit / 32] >> (bit % 32) & 1U;
+    }
+
+    // The first answer, 0 or 1. `step` is the squared cosine times kScale.
+    std::uint32_t Perhaps(std::int32_t step) const
+    {
+        return BitOf(low, static_cast<std::uint32_t>(step) & mask);
+    }
+
+    // Both together; rounding may lift a step to the full scale.
+    bool Possible(std::int32_t step) const
+    {
+        return Perhaps(step) != 0
+               && BitOf(high, (static_cast<std::uint32_t>(step) >> shift) & mask) != 0;
     }
 };
 
@@ -48,7 +62,10 @@ public:
     // Takes all pairs of `points` with different x; none when there are more than kExactPoints.
     void Prepare(std::span<const PlanePoint> points);
 
-    DirectionFilter Filter() const { return {bits_.data(), mask_}; }
+    DirectionFilter Filter() const
+    {
+        return {.low = low_.data(), .high = high_.data(), .mask = mask_, .shift = shift_};
+    }
 
     // The bases whose slope is dy / dx but for rounding; none when dx is 0.
     std::span<const Base> Near(double dx, double dy) const;
@@ -61,8 +78,10 @@ private:
     void Mark(double cosineSquared);
 
     std::vector<Base> bases_;
-    std::vector<std::uint32_t> bits_ = {0};
-    std::uint32_t mask_ = 31;  // the number of bits less 1
+    std::vector<std::uint32_t> low_ = {0};
+    std::vector<std::uint32_t> high_ = {0};
+    std::uint32_t mask_ = 31;
+    std::uint32_t shift_ = DirectionFilter::kScaleBits - 5;
 };
 
 }  // namespace map

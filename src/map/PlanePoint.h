@@ -27,6 +27,12 @@ inline bool InRange(PlanePoint p)
     return std::fabs(p.x) <= kFarthestPoint && std::fabs(p.y) <= kFarthestPoint;
 }
 
+// A run of points of equal x, in an order by x.
+struct Column {
+    std::size_t begin = 0;
+    std::size_t end = 0;
+};
+
 // Twice the signed area of the triangle.
 inline double Cross(PlanePoint a, PlanePoint b, PlanePoint c)
 {

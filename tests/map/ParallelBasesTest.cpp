@@ -71,7 +71,7 @@ TEST(ParallelBases, FindsEveryParallelBaseOfWholePixels)
             EXPECT_EQ(near.size(), expected) << dx << '/' << dy;
             const double cosine2 =
                 1.0 / static_cast<double>(dx * dx + dy * dy) * dx * dx * DirectionFilter::kScale;
-            EXPECT_TRUE(expected == 0 || filter.Bit(static_cast<std::int32_t>(cosine2)) == 1);
+            EXPECT_TRUE(expected == 0 || filter.Possible(static_cast<std::int32_t>(cosine2)));
         }
     }
 }
@@ -88,7 +88,7 @@ TEST(ParallelBases, RulesOutMostOtherDirections)
     bases.Prepare(points);
     int possible = 0;
     for (int i = 0; i < 10000; ++i) {
-        possible += static_cast<int>(bases.Filter().Bit(
+        possible += static_cast<int>(bases.Filter().Perhaps(
             static_cast<std::int32_t>(degree(random) * DirectionFilter::kScale)));
     }
     EXPECT_LT(possible, 300);
@@ -103,7 +103,7 @@ TEST(ParallelBases, IsEmptyForMorePointsThanAreTreatedOneByOne)
     ParallelBases bases;
     bases.Prepare(points);
     EXPECT_TRUE(bases.All().empty());
-    EXPECT_EQ(bases.Filter().Bit(12345), 0U);
+    EXPECT_FALSE(bases.Filter().Possible(12345));
     bases.Prepare(std::span(points).first(kExactPoints));
     EXPECT_EQ(bases.All().size(), kExactPoints * (kExactPoints - 1) / 2);
 }
