@@ -118,6 +118,8 @@ void ForwardBlend::PrepareMoments()
         begin = end;
     }
 
+    packedColumns_ = PackColumns(points_, columns_);
+
     const auto [south, north] = std::minmax_element(
         places_.begin(), places_.end(), [](PlanePoint a, PlanePoint b) { return a.y < b.y; });
     const double width = places_.back().x - places_.front().x;
@@ -200,7 +202,7 @@ Pixel ForwardBlend::ByMoments(PlanePoint p) const
     const PointSums sums = SumPoints(arrays, bases_, view);
     const Fit<double> fit = FitOf(sums.moments, view);
     WeightedPixel<double> sum = fit.spread > kLeastSpread
-                                    ? WithoutColumns(fit.sum, arrays, columns_, sums.moments, view)
+                                    ? WithoutColumns(fit.sum, packedColumns_, sums.moments, view)
                                     : BlendByElimination(points_, columns_, p);
     for (const Triangle& t : collinear_) {
         const bool onColumn = places_[t.i].x == places_[t.j].x || places_[t.j].x == places_[t.k].x;

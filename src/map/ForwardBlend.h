@@ -16,6 +16,7 @@
 
 #include "geo/GeoPosition.h"
 #include "map/FewTriangles.h"
+#include "map/PackedColumns.h"
 #include "map/ParallelBases.h"
 #include "map/Pixel.h"
 #include "map/PlanePoint.h"
@@ -64,6 +65,7 @@ private:
     std::vector<double> y_;
 
     std::vector<Column> columns_;
+    std::vector<PackedColumns> packedColumns_;
     std::vector<Triangle> collinear_;
     ParallelBases bases_;
     FewTriangles few_;  // instead of all these, when there are not more

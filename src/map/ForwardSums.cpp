@@ -4,6 +4,8 @@ namespace map {
 
 namespace {
 
+static_assert(PackedColumns::kSide == kLanes);
+
 [[gnu::always_inline]] inline Moments<double> TotalOf(const Moments<Lanes>& m)
 {
     return {SumOf(m.one), SumOf(m.x), SumOf(m.y),  SumOf(m.xx), SumOf(m.xy), SumOf(m.yy),
@@ -77,26 +79,31 @@ template <Origin origin>
     return v[0] == 0.0 && v[1] == 0.0 && v[2] == 0.0 && v[3] == 0.0;
 }
 
-// Three times `sum` without what the columns' bases contribute to it once.
-template <typename V, typename Spread>
-[[gnu::always_inline]] inline WeightedPixel<V>
-LessColumns(WeightedPixel<V> sum, const PointArrays& points, std::span<const Column> columns,
-            const Moments<V>& all, const Viewpoint<V>& p, Spread spread)
+[[gnu::always_inline]] inline Moments<Lanes> SpreadOf(const Moments<double>& m)
+{
+    return {Broadcast(m.one), Broadcast(m.x),  Broadcast(m.y),  Broadcast(m.xx),
+            Broadcast(m.xy),  Broadcast(m.yy), Broadcast(m.u),  Broadcast(m.v),
+            Broadcast(m.xu),  Broadcast(m.yu), Broadcast(m.xv), Broadcast(m.yv)};
+}
+
+// WithoutColumns for a pack of positions.
+[[gnu::always_inline]] inline WeightedPixel<Lanes>
+LessColumns(WeightedPixel<Lanes> sum, const PointArrays& points, std::span<const Column> columns,
+            const Moments<Lanes>& all, const Viewpoint<Lanes>& p)
 {
     sum.weight *= 3.0;
     sum.x *= 3.0;
     sum.y *= 3.0;
     for (const Column& column : columns) {
-        ColumnMoments<V> moments;
-        V x{};
+        ColumnMoments<Lanes> moments;
+        const Lanes dx = points.longitude[column.begin] - p.x;
         for (std::size_t i = column.begin; i < column.end; ++i) {
-            const V dx = spread(points.longitude[i]) - p.x;
-            const V dy = spread(points.latitude[i]) - p.y;
-            x = dx + p.fromOriginX;
-            moments.Add(PointWeight(dx, dy), dy + p.fromOriginY, spread(points.x[i]),
-                        spread(points.y[i]));
+            const Lanes dy = points.latitude[i] - p.y;
+            moments.Add(PointWeight(dx, dy), dy + p.fromOriginY, Broadcast(points.x[i]),
+                        Broadcast(points.y[i]));
         }
-        const WeightedPixel<V> share =
+        const Lanes x = dx + p.fromOriginX;
+        const WeightedPixel<Lanes> share =
             moments.Share(ApexesOf(all, x), p.fromOriginX - x, p.fromOriginY);
         sum.weight -= share.weight;
         sum.x -= share.x;
@@ -131,8 +138,7 @@ KOMPASSO_WIDE LaneFlags FitPlaces(const PointArrays& points, const ParallelBases
         AddPoints<Origin::AtMiddle>(sums, points, bases, p);
     }
     const Fit<Lanes> fit = FitOf(sums.moments, p);
-    const WeightedPixel<Lanes> sum =
-        LessColumns(fit.sum, points, columns, sums.moments, p, Broadcast);
+    const WeightedPixel<Lanes> sum = LessColumns(fit.sum, points, columns, sums.moments, p);
     const Lanes x = sum.x / sum.weight;
     const Lanes y = sum.y / sum.weight;
     LaneFlags done{};
@@ -143,11 +149,29 @@ KOMPASSO_WIDE LaneFlags FitPlaces(const PointArrays& points, const ParallelBases
     return done;
 }
 
-WeightedPixel<double> WithoutColumns(const WeightedPixel<double>& once, const PointArrays& points,
-                                     std::span<const Column> columns,
-                                     const Moments<double>& moments, const Viewpoint<double>& p)
+KOMPASSO_WIDE WeightedPixel<double> WithoutColumns(const WeightedPixel<double>& once,
+                                                   std::span<const PackedColumns> columns,
+                                                   const Moments<double>& moments,
+                                                   const Viewpoint<double>& p)
 {
-    return LessColumns(once, points, columns, moments, p, [](double value) { return value; });
+    WeightedPixel<double> sum = {3.0 * once.weight, 3.0 * once.x, 3.0 * once.y};
+    const Lanes fromOriginX = Broadcast(p.fromOriginX);
+    const Lanes fromOriginY = Broadcast(p.fromOriginY);
+    for (const PackedColumns& pack : columns) {
+        ColumnMoments<Lanes> column;
+        for (const PackedColumns::Row& row : pack.rows) {
+            const Lanes dy = Load(row.latitude.data()) - p.y;
+            const Lanes weight = PointWeight(Load(row.longitude.data()) - p.x, dy);
+            column.Add(weight, dy + fromOriginY, Load(row.x.data()), Load(row.y.data()));
+        }
+        const Lanes x = (Load(pack.rows.front().longitude.data()) - p.x) + fromOriginX;
+        const ApexMoments<Lanes> apexes = ApexesOf(SpreadOf(moments), x);
+        const WeightedPixel<Lanes> share = column.Share(apexes, fromOriginX - x, fromOriginY);
+        sum.weight -= SumOf(share.weight);
+        sum.x -= SumOf(share.x);
+        sum.y -= SumOf(share.y);
+    }
+    return sum;
 }
 
 }  // namespace map

@@ -9,6 +9,7 @@
 
 #include "map/Lanes.h"
 #include "map/Moments.h"
+#include "map/PackedColumns.h"
 #include "map/ParallelBases.h"
 #include "map/Pixel.h"
 #include "map/PlanePoint.h"
@@ -24,9 +25,6 @@ struct PointArrays {
     std::size_t size;    // of the points
     std::size_t filled;  // a multiple of kLanes
 };
-
-// Coordinates that fill a pack up: at this distance a point has the weight 0.
-inline constexpr double kNowhere = 1e160;
 
 // Below this spread, rounding in the sums could reach a millionth of a pixel.
 inline constexpr double kLeastSpread = 1e-3;
@@ -49,9 +47,10 @@ LaneFlags FitPlaces(const PointArrays& points, const ParallelBases& bases,
                     std::span<const Column> columns, const Viewpoint<Lanes>& p,
                     std::span<Pixel, kLanes> pixels);
 
-// The sum without the rotations over the bases of columns; three rotations of each triangle else.
-WeightedPixel<double> WithoutColumns(const WeightedPixel<double>& once, const PointArrays& points,
-                                     std::span<const Column> columns,
+// Three times `once`, which holds one rotation of each triangle, without the rotations over the
+// bases of columns.
+WeightedPixel<double> WithoutColumns(const WeightedPixel<double>& once,
+                                     std::span<const PackedColumns> columns,
                                      const Moments<double>& moments, const Viewpoint<double>& p);
 
 }  // namespace map

@@ -40,7 +40,6 @@ TEST(SheetQuality, IsBelowAPixelOnPrintedGrids)
         RecordProperty("worst", std::to_string(worst));
         EXPECT_LE(worst, 3.0);
         EXPECT_LT(rms, 0.5);
-        std::printf("%dx%d worst %.3f rms %.3f\n", c.columns, c.rows, worst, rms);
     }
 }
 
