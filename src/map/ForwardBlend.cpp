@@ -96,8 +96,8 @@ void ForwardBlend::TakePoints(std::span<const ReferencePoint> points)
 
 void ForwardBlend::PrepareFewTriangles()
 {
-    ForEachTriangle(places_, [this](const Triangle& t, double /*cross*/, bool collinear) {
-        if (!collinear) {
+    ForEachTriangle(places_, [this](const Triangle& t, const Shape& shape) {
+        if (!shape.collinear) {
             few_.Add(points_[t.i], points_[t.j], points_[t.k]);
         }
     });
@@ -224,7 +224,7 @@ void ForwardBlend::SubtractParallel(WeightedPixel<double>& sum, PlanePoint p, st
     const PlanePoint apex = places_[c];
     for (const auto& [slope, a, b] : bases_.Near(p.x - apex.x, p.y - apex.y)) {
         if (a != c && b != c && ExactlyParallel(p, apex, places_[a], places_[b])
-            && !Collinear(places_[a], places_[b], apex, Cross(places_[a], places_[b], apex))) {
+            && !ShapeOf(places_[a], places_[b], apex).collinear) {
             SubtractTriangle(sum, p, {a, b, static_cast<std::uint16_t>(c)}, 1.0);
         }
     }

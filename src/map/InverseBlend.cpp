@@ -21,9 +21,9 @@ void InverseBlend::Prepare(std::span<const ReferencePoint> points)
     }
     bases_.Prepare(places_);
     if (places_.size() <= kExactPoints) {
-        ForEachTriangle(places_, [this](const Triangle& t, double cross, bool collinear) {
-            if (!collinear) {
-                AddTriangle(t, cross);
+        ForEachTriangle(places_, [this](const Triangle& t, const Shape& shape) {
+            if (!shape.collinear) {
+                AddTriangle(t, shape.cross);
             }
         });
     } else if (SurveyTriangles(places_).usable > 0) {
@@ -155,8 +155,8 @@ void InverseBlend::Subtract(Sum& sum, PlanePoint p, std::size_t a, std::size_t b
     const Vertex& va = vertices_[a];
     const Vertex& vb = vertices_[b];
     const Vertex& vc = vertices_[apex];
-    const double cross = Cross(va.place, vb.place, vc.place);
-    if (Collinear(va.place, vb.place, vc.place, cross)) {
+    const auto [cross, longest2, collinear] = ShapeOf(va.place, vb.place, vc.place);
+    if (collinear) {
         return;
     }
     // With a < b, the cyclic order of the three begins the base at b only around an apex between.

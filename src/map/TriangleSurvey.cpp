@@ -18,16 +18,6 @@ struct Flatness {
 // height the product is below a hundred-millionth of what one pixel's rounding does.
 constexpr double kNegligibleHeight = 1e-10;
 
-double DistanceSquared(PlanePoint a, PlanePoint b)
-{
-    return (b.x - a.x) * (b.x - a.x) + (b.y - a.y) * (b.y - a.y);
-}
-
-double LongestSideSquared(PlanePoint a, PlanePoint b, PlanePoint c)
-{
-    return std::max({DistanceSquared(a, b), DistanceSquared(b, c), DistanceSquared(c, a)});
-}
-
 PlanePoint Farthest(std::span<const PlanePoint> points, PlanePoint from)
 {
     return *std::max_element(points.begin(), points.end(), [from](PlanePoint a, PlanePoint b) {
@@ -41,17 +31,10 @@ bool InLine(std::span<const PlanePoint> points)
     const PlanePoint a = Farthest(points, points.front());
     const PlanePoint b = Farthest(points, a);
     return std::all_of(points.begin(), points.end(),
-                       [a, b](PlanePoint c) { return Collinear(a, b, c, Cross(a, b, c)); });
+                       [a, b](PlanePoint c) { return ShapeOf(a, b, c).collinear; });
 }
 
 }  // namespace
-
-bool Collinear(PlanePoint a, PlanePoint b, PlanePoint c, double cross)
-{
-    const double longest2 = LongestSideSquared(a, b, c);
-    const double surelyNot = 64.0 * kCollinear * longest2 * longest2;
-    return cross * cross < surelyNot && UsableAreaSquared(a.x, a.y, b.x, b.y, c.x, c.y) == 0.0;
-}
 
 TriangleSurvey SurveyTriangles(std::span<const PlanePoint> points)
 {
@@ -64,19 +47,22 @@ TriangleSurvey SurveyTriangles(std::span<const PlanePoint> points)
     }
     survey.used.assign(points.size(), false);
     std::vector<Flatness> flat;
-    double greatest = 0.0;
-    ForEachTriangle(points, [&](const Triangle& t, double cross, bool collinear) {
-        const double longest2 = LongestSideSquared(points[t.i], points[t.j], points[t.k]);
-        if (!collinear) {
+    double greatest2 = 0.0;
+    ForEachTriangle(points, [&](const Triangle& t, const Shape& shape) {
+        const double cross2 = shape.cross * shape.cross;
+        const double side4 = shape.longest2 * shape.longest2;
+        if (!shape.collinear) {
             ++survey.usable;
             survey.used[t.i] = survey.used[t.j] = survey.used[t.k] = true;
-            greatest = std::max(greatest, std::fabs(cross) / longest2);
-        } else if (cross != 0.0) {
-            flat.push_back({.triangle = t, .height = std::fabs(cross) / longest2});
+            if (cross2 > greatest2 * side4) {
+                greatest2 = cross2 / side4;
+            }
+        } else if (shape.cross != 0.0) {
+            flat.push_back({.triangle = t, .height = std::sqrt(cross2 / side4)});
         }
     });
     for (const auto& [t, height] : flat) {
-        if (height > kNegligibleHeight * greatest * greatest && survey.used[t.i] && survey.used[t.j]
+        if (height > kNegligibleHeight * greatest2 && survey.used[t.i] && survey.used[t.j]
             && survey.used[t.k]) {
             survey.collinear.push_back(t);
         }

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -18,11 +19,32 @@ struct Triangle {
     std::uint16_t k = 0;
 };
 
-// Whether the three count as collinear. `cross` is Cross(a, b, c): it spares most triples the
-// roots of the full test.
-bool Collinear(PlanePoint a, PlanePoint b, PlanePoint c, double cross);
+// The shape of a triple.
+struct Shape {
+    double cross = 0.0;     // twice the signed area
+    double longest2 = 0.0;  // square of the longest side
+    bool collinear = false;
+};
 
-// Calls visit(triangle, cross, collinear) for every triple of points.
+inline double DistanceSquared(PlanePoint a, PlanePoint b)
+{
+    return (b.x - a.x) * (b.x - a.x) + (b.y - a.y) * (b.y - a.y);
+}
+
+inline Shape ShapeOf(PlanePoint a, PlanePoint b, PlanePoint c)
+{
+    const double cross = Cross(a, b, c);
+    const double longest2 =
+        std::max({DistanceSquared(a, b), DistanceSquared(b, c), DistanceSquared(c, a)});
+    // Most triples are so far from collinear that they need no roots to tell.
+    const bool surely = cross * cross >= 64.0 * kCollinear * longest2 * longest2;
+    return {.cross = cross,
+            .longest2 = longest2,
+            .collinear = (!surely || cross == 0.0)
+                         && UsableAreaSquared(a.x, a.y, b.x, b.y, c.x, c.y) == 0.0};
+}
+
+// Calls visit(triangle, shape) for every triple of points.
 template <typename Visit>
 void ForEachTriangle(std::span<const PlanePoint> points, Visit visit)
 {
@@ -30,9 +52,7 @@ void ForEachTriangle(std::span<const PlanePoint> points, Visit visit)
     for (std::uint16_t i = 0; i < n; ++i) {
         for (std::uint16_t j = i + 1; j < n; ++j) {
             for (std::uint16_t k = j + 1; k < n; ++k) {
-                const double cross = Cross(points[i], points[j], points[k]);
-                const bool collinear = Collinear(points[i], points[j], points[k], cross);
-                visit(Triangle{.i = i, .j = j, .k = k}, cross, collinear);
+                visit(Triangle{.i = i, .j = j, .k = k}, ShapeOf(points[i], points[j], points[k]));
             }
         }
     }

@@ -1,6 +1,7 @@
 #include "map/ForwardBlend.h"
 
 #include <cmath>
+#include <cstddef>
 #include <limits>
 #include <vector>
 
@@ -34,9 +35,9 @@ TEST(ForwardBlend, AgreesWithTheTrianglesOnScannedSheets)
     Random random(11);
     for (int table = 0; table < 10000; ++table) {
         const SampleMap map = ScannedSheet(random, TableSize(random));
-        std::vector<geo::GeoPosition> positions;
-        for (int i = 0; i < 5; ++i) {
-            positions.push_back(PositionAround(random, map));
+        std::vector<geo::GeoPosition> positions(5);
+        for (geo::GeoPosition& position : positions) {
+            position = PositionAround(random, map);
         }
         ASSERT_TRUE(ForwardAgrees(map.points, positions)) << "table " << table;
     }
@@ -105,8 +106,10 @@ TEST(ForwardBlend, LeavesOutEveryRotationThatTheTrianglesLeaveOut)
     // a rotation more or less can be seen.
     std::vector<ReferencePoint> points;
     for (int i = 0; i < 12; ++i) {
-        const double x = i % 4;
-        const double y = i / 4;
+        const int column = i % 4;
+        const int row = i / 4;
+        const double x = column;
+        const double y = row;
         points.push_back({100.0 * x + 7.0 * (i % 3), 300.0 - 100.0 * y + 5.0 * (i % 5),
                           8.0 + x / 4.0, 48.0 + y / 4.0});
     }
@@ -169,6 +172,7 @@ TEST(ForwardBlend, IsZeroForAStraightLine)
 {
     for (const int count : {3, 5, 30, 300}) {
         std::vector<ReferencePoint> points;
+        points.reserve(static_cast<std::size_t>(count));
         for (int i = 0; i < count; ++i) {
             points.push_back({10.0 * i, 20.0 * i, 8.0 + 0.1 * i, 48.0 + 0.07 * i});
         }

@@ -133,6 +133,7 @@ TEST(InverseBlend, IsZeroForAStraightLine)
 {
     for (const int count : {3, 5, 30, 300}) {
         std::vector<ReferencePoint> points;
+        points.reserve(static_cast<std::size_t>(count));
         for (int i = 0; i < count; ++i) {
             points.push_back({10.0 * i, 20.0 * i, 8.0 + 0.1 * i, 48.0 - 0.07 * i * i});
         }
