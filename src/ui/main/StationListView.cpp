@@ -88,6 +88,7 @@ void StationListView::reset()
 {
     QListView::reset();
     marks_.reset();
+    pressedRow_ = -1;  // that line may be another now
 }
 
 void StationListView::selectionChanged(const QItemSelection& selected,
@@ -110,9 +111,10 @@ void StationListView::mousePressEvent(QMouseEvent* event)
 
 void StationListView::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    // The first click has done its work, and the list may be another by now.
-    pressedRow_ = -1;
     QListView::mouseDoubleClickEvent(event);
+    // The first click has done its work, and the list may be another by now; in that case the call
+    // above has taken this for a first press.
+    pressedRow_ = -1;
 }
 
 void StationListView::mouseMoveEvent(QMouseEvent* event)

@@ -2,9 +2,13 @@
 
 #pragma once
 
+#include <stdexcept>
+#include <string>
+
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -16,15 +20,17 @@
 
 namespace ui {
 
-class MainFormFixture : public testing::Test {
-protected:
-    void SetUp() override
+// One run of the program in the current directory, from its start to the end of the object.
+class ProgramRun {
+public:
+    // False when the program ended at its start.
+    bool Start()
     {
-        ASSERT_TRUE(folder.isValid());
-        ASSERT_TRUE(QDir::setCurrent(folder.path()));
-        ASSERT_TRUE(window.Start());
+        if (!window.Start()) {
+            return false;
+        }
         window.show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        return QTest::qWaitForWindowActive(&window);
     }
 
     template <typename Widget>
@@ -53,10 +59,30 @@ protected:
         QTest::keyClicks(field, text);
     }
 
-    QTemporaryDir folder;  // the program directory of the test
+    void Click(const char* button) { QTest::mouseClick(Find<QPushButton>(button), Qt::LeftButton); }
+
     app::AppState state;
     ScriptedDialogs dialogs;
     MainForm window{state, dialogs};
+};
+
+class MainFormFixture : public testing::Test, protected ProgramRun {
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(folder.isValid());
+        ASSERT_TRUE(QDir::setCurrent(folder.path()));
+        PrepareFolder();
+        ASSERT_TRUE(Start());
+    }
+
+    // The folder is about to go.
+    ~MainFormFixture() override { QDir::setCurrent(QDir::rootPath()); }
+
+    // Puts files into the program directory, which is the current one, before the program starts.
+    virtual void PrepareFolder() {}
+
+    QTemporaryDir folder;  // the program directory of the test
 };
 
 }  // namespace ui
