@@ -85,7 +85,7 @@ TEST(PictureClip, EveryPieceReadsOnLightAndOnDark)
         PictureClip clip;
         clip.Draw(palette);
         const QColor button = palette.color(QPalette::Button);
-        for (int piece = 0; piece < PictureClip::kPieces; ++piece) {
+        for (int piece = 0; piece < PictureClip::Pieces; ++piece) {
             SCOPED_TRACE(std::to_string(piece) + " on " + button.name().toStdString());
             const Ink ink = InkOf(Piece(clip, piece), button);
             EXPECT_GE(ink.contrast, 4.5);
@@ -100,7 +100,7 @@ TEST(PictureClip, PiecesOfAButtonThatIsOffAreFainterButThere)
         PictureClip clip;
         clip.Draw(palette);
         const QColor button = palette.color(QPalette::Button);
-        for (int piece = 0; piece < PictureClip::kPieces; ++piece) {
+        for (int piece = 0; piece < PictureClip::Pieces; ++piece) {
             SCOPED_TRACE(piece);
             const double off = InkOf(Piece(clip, piece, QIcon::Disabled), button).contrast;
             EXPECT_LT(off, InkOf(Piece(clip, piece), button).contrast);
@@ -114,18 +114,18 @@ TEST(PictureClip, NoTwoPiecesLookAlikeAndNoneReachesIntoItsNeighbour)
     PictureClip clip;
     clip.Draw(Light());
     std::set<QByteArray> seen;
-    for (int piece = 0; piece < PictureClip::kPieces; ++piece) {
+    for (int piece = 0; piece < PictureClip::Pieces; ++piece) {
         SCOPED_TRACE(piece);
-        const QImage image = Piece(clip, piece, QIcon::Normal, 64);
-        ASSERT_EQ(image.size(), QSize(64, 64));
+        const QImage image = Piece(clip, piece, QIcon::Normal, 16);
+        ASSERT_EQ(image.size(), QSize(16, 16));
         seen.insert(
             QByteArray(reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes()));
         for (int y = 0; y < image.height(); ++y) {
             ASSERT_EQ(qAlpha(image.pixel(0, y)), 0);
-            ASSERT_EQ(qAlpha(image.pixel(63, y)), 0);
+            ASSERT_EQ(qAlpha(image.pixel(15, y)), 0);
         }
     }
-    EXPECT_EQ(seen.size(), static_cast<std::size_t>(PictureClip::kPieces));
+    EXPECT_EQ(seen.size(), static_cast<std::size_t>(PictureClip::Pieces));
 }
 
 class PictureClipOfMainFormTest : public MainFormFixture {
