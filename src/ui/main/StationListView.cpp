@@ -1,10 +1,18 @@
 #include "ui/main/StationListView.h"
 
+#include <algorithm>
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QStyledItemDelegate>
 
 namespace ui {
+
+namespace {
+
+constexpr int kMargin = 4;  // around a line
+
+}  // namespace
 
 // Gives every line the same size without looking at it.
 class StationListView::OneSize : public QStyledItemDelegate {
@@ -30,12 +38,32 @@ StationListView::StationListView(QWidget* parent) : QListView(parent), size_(new
 
 void StationListView::SetLongestLine(const QString& line)
 {
-    constexpr int kMargin = 4;        // around a line
     constexpr int kSpareDigits = 10;  // a number in front may be longer in another line
     const int digit = fontMetrics().horizontalAdvance(u'0');
     size_->size = {fontMetrics().horizontalAdvance(line) + kSpareDigits * digit + 2 * kMargin,
                    fontMetrics().height() + kMargin};
     scheduleDelayedItemsLayout();
+}
+
+void StationListView::WidenForShownLines()
+{
+    int widest = 0;
+    for (QModelIndex line = indexAt({0, 0});
+         line.isValid() && visualRect(line).top() < viewport()->height();
+         line = line.siblingAtRow(line.row() + 1)) {
+        widest = std::max(widest, fontMetrics().horizontalAdvance(line.data().toString()));
+    }
+    if (widest + 2 * kMargin > size_->size.width()) {
+        size_->size.setWidth(widest + 2 * kMargin);
+        scheduleDelayedItemsLayout();
+    }
+}
+
+void StationListView::paintEvent(QPaintEvent* event)
+{
+    QListView::paintEvent(event);
+    // Wide letters may make a line wider than the one with the most characters.
+    WidenForShownLines();
 }
 
 bool StationListView::IsMarked(std::size_t row) const

@@ -10,15 +10,15 @@
 namespace ui {
 
 // Extended selection: a plain click chooses a line; Ctrl, Shift, dragging and the arrow keys mark
-// and move only; typing searches. All lines have one height and the width of the longest, so that
-// filling it takes no time that grows with the texts.
+// and move only; typing searches. All lines have one height and one width, so that filling it takes
+// no time that grows with the texts; no line is cut.
 class StationListView : public QListView {
     Q_OBJECT
 
 public:
     explicit StationListView(QWidget* parent = nullptr);
 
-    // To be called after each fill.
+    // To be called after each fill, with the line that probably needs the most room.
     void SetLongestLine(const QString& line);
 
     // True when line `row` is marked. Cheap for every line of a list in turn.
@@ -40,6 +40,7 @@ signals:
 protected:
     void selectionChanged(const QItemSelection& selected,
                           const QItemSelection& deselected) override;
+    void paintEvent(QPaintEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -48,6 +49,8 @@ protected:
 
 private:
     class OneSize;
+
+    void WidenForShownLines();
 
     OneSize* size_;
     int pressedRow_ = -1;                             // by a press that a click may follow

@@ -194,6 +194,20 @@ TEST_F(StationListViewTest, LongLinesAreScrolledNotCut)
     EXPECT_GE(list->List1->visualRect(list->List1->model()->index(5, 0)).width(), lineWidth);
 }
 
+TEST_F(StationListViewTest, ALineOfFewWideLettersIsNotCutEither)
+{
+    const std::string wide(100, 'W');
+    ASSERT_TRUE(state.database.Append(stations::MakeRecord({std::string(200, 'i')})));
+    ASSERT_TRUE(state.database.Append(stations::MakeRecord({wide})));
+    window.List1Load();
+    list->List1->scrollToBottom();
+    list->List1->repaint();
+    QCoreApplication::processEvents();
+    const int lineWidth =
+        list->List1->fontMetrics().horizontalAdvance(QString::fromStdString(wide + " -  - "));
+    EXPECT_GT(list->List1->visualRect(list->List1->model()->index(6, 0)).width(), lineWidth);
+}
+
 class FullStationListTest : public StationListViewTest {
 protected:
     stations::StationDatabase Stations() const override
