@@ -37,11 +37,11 @@ void DrawPiece(QPainter& painter, PictureClip::Piece piece)
     case PictureClip::Map:  // rings and a cross
         painter.drawEllipse(QPointF(8, 8), 6, 6);
         painter.drawEllipse(QPointF(8, 8), 2.5, 2.5);
-        painter.drawLines({QLineF(8, 1, 8, 15), QLineF(1, 8, 15, 8)});
+        painter.drawLines({QLineF(8, 2, 8, 14), QLineF(2, 8, 14, 8)});
         break;
     case PictureClip::Sort:
-        painter.drawLines({QLineF(2, 4, 5, 4), QLineF(2, 8, 7, 8), QLineF(2, 12, 9, 12)});
-        DrawArrow(painter, {12, 3}, {12, 13});
+        painter.drawLines({QLineF(2, 4, 4, 4), QLineF(2, 8, 6, 8), QLineF(2, 12, 7, 12)});
+        DrawArrow(painter, {11, 3}, {11, 13});
         break;
     case PictureClip::MoveOut:  // an arrow out of a box
         painter.drawPolyline(QPolygonF({{8, 3}, {2, 3}, {2, 13}, {8, 13}}));
