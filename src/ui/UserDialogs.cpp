@@ -16,6 +16,7 @@ namespace {
 // ending is appended, and only there may a name be opened that does not exist yet.
 void Prepare(QFileDialog& dialog, const FileRequest& request)
 {
+    dialog.setObjectName(u"CommonDialog1"_s);
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     dialog.setNameFilters(QtNameFilters(request.filter));

@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QFileInfo>
+#include <QKeySequence>
 #include <QMenu>
 #include <QMenuBar>
 #include <QStandardPaths>
@@ -24,6 +25,7 @@ struct MainForm::MenuItem {
     const char* name = nullptr;
     QString caption;
     std::function<void()> command;
+    QKeySequence shortcut = {};
 };
 
 void MainForm::AddMenus()
@@ -42,17 +44,18 @@ void MainForm::AddMenus()
             emit Changed();
         };
     };
-    AddMenu(u"Datei"_s, {
-                            {"MnuOpen", u"Öffnen"_s, telling(&FileCommands::Open)},
-                            {"MnuAppend", u"Anfügen"_s, telling(&FileCommands::Append)},
-                            {},
-                            {"MnuConfig", u"Konfiguration"_s, [this] { configuration_->Edit(); }},
-                            {},
-                            {"MnuList", u"Listing"_s, [this] { files_->WriteListing(); }},
-                            {},
-                            {"MnuTest", u"Test"_s, telling(&FileCommands::ImportText)},
-                            {"MnuExit", u"Beenden"_s, [this] { close(); }},
-                        });
+    AddMenu(u"Datei"_s,
+            {
+                {"MnuOpen", u"Öffnen"_s, telling(&FileCommands::Open), QKeySequence::Open},
+                {"MnuAppend", u"Anfügen"_s, telling(&FileCommands::Append)},
+                {},
+                {"MnuConfig", u"Konfiguration"_s, [this] { configuration_->Edit(); }},
+                {},
+                {"MnuList", u"Listing"_s, [this] { files_->WriteListing(); }},
+                {},
+                {"MnuTest", u"Test"_s, telling(&FileCommands::ImportText)},
+                {"MnuExit", u"Beenden"_s, [this] { close(); }, QKeySequence(u"Ctrl+Q"_s)},
+            });
     AddMenu(u"Bearbeiten"_s,
             {
                 {"MnuGEE", u"gleiche Einträge entfernen"_s,
@@ -69,7 +72,7 @@ void MainForm::AddMenus()
             });
     AddMenu(u"Ansicht"_s, {{"MnuKarte", u"Karte"_s, [this] { ShowMap(); }}});
     AddMenu(u"Hilfe"_s, {
-                            {"MnuFaq", u"FAQ"_s, [this] { ShowHelp(); }},
+                            {"MnuFaq", u"FAQ"_s, [this] { ShowHelp(); }, QKeySequence(Qt::Key_F1)},
                             {"MnuVers", u"Versionen"_s, [this] { ShowVersions(); }},
                         });
 }
@@ -83,6 +86,7 @@ void MainForm::AddMenu(const QString& title, std::initializer_list<MenuItem> ite
             continue;
         }
         QAction* const action = Named(menu->addAction(item.caption), QLatin1StringView(item.name));
+        action->setShortcut(item.shortcut);
         connect(action, &QAction::triggered, this, item.command);
     }
 }
