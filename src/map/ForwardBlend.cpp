@@ -201,7 +201,7 @@ Pixel ForwardBlend::ByMoments(PlanePoint p) const
     const Viewpoint<double> view = View(p);
     const PointSums sums = SumPoints(arrays, bases_, view);
     const Fit<double> fit = FitOf(sums.moments, view);
-    WeightedPixel<double> sum = fit.spread > kLeastSpread
+    WeightedPixel<double> sum = fit.margin > 0.0
                                     ? WithoutColumns(fit.sum, packedColumns_, sums.moments, view)
                                     : BlendByElimination(points_, columns_, p);
     for (const Triangle& t : collinear_) {

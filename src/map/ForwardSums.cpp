@@ -144,7 +144,7 @@ KOMPASSO_WIDE LaneFlags FitPlaces(const PointArrays& points, const ParallelBases
     LaneFlags done{};
     for (std::size_t lane = 0; lane < kLanes; ++lane) {
         pixels[lane] = {.x = x[lane], .y = y[lane]};
-        done[lane] = fit.spread[lane] > kLeastSpread && !sums.inLine[lane];
+        done[lane] = fit.margin[lane] > 0.0 && !sums.inLine[lane];
     }
     return done;
 }

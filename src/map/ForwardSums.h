@@ -26,9 +26,6 @@ struct PointArrays {
     std::size_t filled;  // a multiple of kLanes
 };
 
-// Below this spread, rounding in the sums could reach a millionth of a pixel.
-inline constexpr double kLeastSpread = 1e-3;
-
 struct PointSums {
     Moments<double> moments;
     std::size_t count;                                        // of the following

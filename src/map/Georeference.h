@@ -53,6 +53,12 @@ struct ImageSize {
 // The products of corner numbers and edges are 16-bit: larger images cannot be georeferenced.
 inline constexpr std::int32_t kLongestEdge = 32767;
 
+inline bool CanBeGeoreferenced(ImageSize size)
+{
+    return size.width >= 1 && size.height >= 1 && size.width <= kLongestEdge
+           && size.height <= kLongestEdge;
+}
+
 // Position of a corner of the image: i is 0 at the left, 1 at the right, j is 0 at the top.
 FoundPosition CornerToGeo(const ReferenceTable& table, ImageSize size, int i, int j,
                           Refinement refinement);

@@ -82,12 +82,16 @@ struct WeightedPixel {
     V y{};
 };
 
-// One rotation of every triangle. `spread` is the share of the determinant that cancellation has
-// left: far below 1 when the points, as they are weighted, lie nearly in a line.
+// Less of the determinant than this left by cancellation, and rounding in the sums could reach a
+// millionth of a pixel.
+inline constexpr double kLeastSpread = 1e-3;
+
+// One rotation of every triangle. The margin is positive when the sum is exact enough; it is not
+// when the points, as they are weighted, lie nearly in a line.
 template <typename V>
 struct Fit {
     WeightedPixel<V> sum;
-    V spread;
+    V margin;
 };
 
 template <typename V>
@@ -113,7 +117,7 @@ template <typename V>
                 .y = determinant * m.v + alongX * (m.xv - meanX * m.v)
                      + alongY * (m.yv - meanY * m.v),
             },
-        .spread = determinant / (xx * yy),
+        .margin = determinant - kLeastSpread * (xx * yy),
     };
 }
 

@@ -182,6 +182,23 @@ TEST(ForwardBlend, IsZeroForAStraightLine)
     }
 }
 
+TEST(ForwardBlend, IsZeroForOneColumnAndOneRow)
+{
+    std::vector<ReferencePoint> column;
+    std::vector<ReferencePoint> row;
+    for (int i = 0; i < 6; ++i) {
+        const double pixel = 100.0 * i * i;
+        column.push_back({pixel, 50.0 - pixel, 8.1, 48.0 + 0.1 * i});
+        row.push_back({pixel, 50.0 - pixel, 8.1 + 0.1 * i, 48.3});
+    }
+    for (const auto& points : {column, row}) {
+        ForwardBlend blend;
+        blend.Prepare(points);
+        EXPECT_EQ(blend.At({48.2, 8.2}), Pixel{});
+        EXPECT_TRUE(ForwardAgrees(points, std::vector<geo::GeoPosition>{{48.2, 8.2}, {0.0, 0.0}}));
+    }
+}
+
 TEST(ForwardBlend, StaysExactFarOutside)
 {
     Random random(16);

@@ -171,6 +171,15 @@ TEST(PixelToGeo, EndsWithinTheToleranceForNearlyAllClicks)
     EXPECT_GE(within, clicks * 99 / 100) << within << " of " << clicks;
 }
 
+TEST(CanBeGeoreferenced, EndsAtSixteenBits)
+{
+    EXPECT_TRUE(CanBeGeoreferenced({.width = 32767, .height = 32767}));
+    EXPECT_TRUE(CanBeGeoreferenced({.width = 1, .height = 1}));
+    EXPECT_FALSE(CanBeGeoreferenced({.width = 32768, .height = 1}));
+    EXPECT_FALSE(CanBeGeoreferenced({.width = 1, .height = 32768}));
+    EXPECT_FALSE(CanBeGeoreferenced({.width = 0, .height = 5}));
+}
+
 TEST(CornerToGeo, TakesTheCornersOfTheImage)
 {
     const ReferenceTable table = PlainTable();

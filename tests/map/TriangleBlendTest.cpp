@@ -56,16 +56,26 @@ TEST(TriangleBlend, IsAPlaneThatTheWeightsCannotBend)
 
 TEST(TriangleBlend, WeighsTheFirstVertexOnTheWayBack)
 {
-    // The mid-edges of a four-corner map whose lower right corner is off: rotations over vertical
-    // bases and along the edge are left out. By hand from the two triangles that remain.
+    // Four corners, the lower right one off. Each triangle has its own longitude at the pixel; the
+    // rotations over the left and right edge are left out, and those with the lower edge as the
+    // base and an upper corner as the apex.
     const ReferencePoint corners[] = {{0.0, 0.0, 10.0, 50.0},
                                       {0.0, 100.0, 10.0, 49.0},
                                       {200.0, 0.0, 12.0, 50.0},
                                       {200.0, 100.0, 12.2, 49.0}};
-    const geo::GeoPosition top = TriangleBlendToGeo(corners, {100.0, 0.0});
+    const double i0 = 1.0 / 2500.0;  // by the distance from each corner
+    const double i1 = 1.0 / 12500.0;
+    const double i2 = 1.0 / 22500.0;
+    const double i3 = 1.0 / 32500.0;
+    const double of012 = i1 + i2;
+    const double of013 = i3;
+    const double of023 = i3 + i0;
+    const double of123 = i1;
+    const double longitude = (10.5 * of012 + 10.55 * of013 + 10.5 * of023 + 10.35 * of123)
+                             / (of012 + of013 + of023 + of123);
+    const geo::GeoPosition top = TriangleBlendToGeo(corners, {50.0, 0.0});
+    EXPECT_NEAR(top.longitude, longitude, 1e-12);
     EXPECT_NEAR(top.latitude, 50.0, 1e-12);
-    EXPECT_GT(top.longitude, 10.9);
-    EXPECT_LT(top.longitude, 11.1);
 }
 
 TEST(TriangleBlend, CountsPointsInALineAsNone)
