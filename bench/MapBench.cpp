@@ -35,7 +35,7 @@ double Nanoseconds(const std::function<void()>& work)
 
 double Median(std::vector<double> values)
 {
-    std::nth_element(values.begin(), values.begin() + values.size() / 2, values.end());
+    std::sort(values.begin(), values.end());
     return values[values.size() / 2];
 }
 
@@ -221,8 +221,8 @@ geo::GeoPosition SearchedThroughTriangles(std::span<const map::ReferencePoint> p
 void RunSearch(const Workload& w, const std::string& name, int clicks, int rounds, double bound)
 {
     const auto click = [&w](int i) {
-        return map::Pixel{.x = static_cast<double>(w.map.size.width * (i + 1) / 13),
-                          .y = static_cast<double>(w.map.size.height * (i + 2) / 14)};
+        return map::Pixel{.x = std::floor(w.map.size.width * (i + 1) / 13.0),
+                          .y = std::floor(w.map.size.height * (i + 2) / 14.0)};
     };
     Run({.name = "refined PixelToGeo / step by step, " + name,
          .units = static_cast<double>(clicks),

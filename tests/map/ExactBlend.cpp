@@ -46,6 +46,38 @@ bool Counts(const Vertex& a, const Vertex& b, const Vertex& c, const Vertex& p)
     return b.x != a.x && (p.x - c.x) * (b.y - a.y) != (p.y - c.y) * (b.x - a.x);
 }
 
+using Corners = std::array<Vertex, 3>;
+
+bool IsCollinear(const Corners& t, Quad cross)
+{
+    const Quad longest = std::max({Square(t[0], t[1]), Square(t[1], t[2]), Square(t[2], t[0])});
+    return cross == 0 || cross * cross / 4 < Quad{1e-12} * longest * longest;
+}
+
+// Adds the rotations of one triangle.
+template <typename WeightOf>
+void AddTriangle(Blend& sum, const Corners& t, const Vertex& p, WeightOf weightOf)
+{
+    const Quad cross = Cross(t[0], t[1], t[2]);
+    if (IsCollinear(t, cross)) {
+        return;
+    }
+    const Quad areas[] = {Cross(p, t[1], t[2]), Cross(t[0], p, t[2]), Cross(t[0], t[1], p)};
+    const Quad u = (areas[0] * t[0].u + areas[1] * t[1].u + areas[2] * t[2].u) / cross;
+    const Quad v = (areas[0] * t[0].v + areas[1] * t[1].v + areas[2] * t[2].v) / cross;
+    for (std::size_t r = 0; r < 3; ++r) {
+        const Vertex& a = t[(r + 1) % 3];
+        const Vertex& b = t[(r + 2) % 3];
+        const Vertex& c = t[r];
+        if (Counts(a, b, c, p)) {
+            const Quad weight = weightOf(a, b, c) * cross * cross;
+            sum.u += weight * u;
+            sum.v += weight * v;
+            sum.weight += weight;
+        }
+    }
+}
+
 template <typename WeightOf>
 Blend Blended(const std::vector<Vertex>& vertices, const Vertex& p, WeightOf weightOf)
 {
@@ -53,28 +85,7 @@ Blend Blended(const std::vector<Vertex>& vertices, const Vertex& p, WeightOf wei
     for (std::size_t i = 0; i < vertices.size(); ++i) {
         for (std::size_t j = i + 1; j < vertices.size(); ++j) {
             for (std::size_t k = j + 1; k < vertices.size(); ++k) {
-                const std::array<Vertex, 3> t = {vertices[i], vertices[j], vertices[k]};
-                const Quad cross = Cross(t[0], t[1], t[2]);
-                const Quad longest =
-                    std::max({Square(t[0], t[1]), Square(t[1], t[2]), Square(t[2], t[0])});
-                if (cross * cross / 4 < Quad{1e-12} * longest * longest || cross == 0) {
-                    continue;
-                }
-                const Quad areas[] = {Cross(p, t[1], t[2]), Cross(t[0], p, t[2]),
-                                      Cross(t[0], t[1], p)};
-                const Quad u = (areas[0] * t[0].u + areas[1] * t[1].u + areas[2] * t[2].u) / cross;
-                const Quad v = (areas[0] * t[0].v + areas[1] * t[1].v + areas[2] * t[2].v) / cross;
-                for (std::size_t r = 0; r < 3; ++r) {
-                    const Vertex& a = t[(r + 1) % 3];
-                    const Vertex& b = t[(r + 2) % 3];
-                    const Vertex& c = t[r];
-                    if (Counts(a, b, c, p)) {
-                        const Quad weight = weightOf(a, b, c) * cross * cross;
-                        sum.u += weight * u;
-                        sum.v += weight * v;
-                        sum.weight += weight;
-                    }
-                }
+                AddTriangle(sum, {vertices[i], vertices[j], vertices[k]}, p, weightOf);
             }
         }
     }

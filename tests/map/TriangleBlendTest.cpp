@@ -1,5 +1,6 @@
 #include "map/TriangleBlend.h"
 
+#include <cstddef>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -44,8 +45,9 @@ TEST(TriangleBlend, IsAPlaneThatTheWeightsCannotBend)
 {
     std::vector<ReferencePoint> points;
     for (int i = 0; i < 9; ++i) {
+        const int row = i / 3;
         const double longitude = 8.0 + 0.37 * (i % 3) + 0.05 * i;
-        const double latitude = 48.0 + 0.29 * (i / 3) - 0.04 * (i % 4);
+        const double latitude = 48.0 + 0.29 * row - 0.04 * (i % 4);
         points.push_back({900.0 * (longitude - 8.0) + 40.0 * latitude,
                           700.0 * (49.0 - latitude) + 11.0 * longitude, longitude, latitude});
     }
@@ -80,9 +82,10 @@ TEST(TriangleBlend, WeighsTheFirstVertexOnTheWayBack)
 
 TEST(TriangleBlend, CountsPointsInALineAsNone)
 {
-    std::vector<ReferencePoint> points;
-    for (int i = 0; i < 4; ++i) {
-        points.push_back({10.0 * i, 20.0 * i, 8.0 + 0.1 * i, 48.0 + 0.1 * i});
+    std::vector<ReferencePoint> points(4);
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        const auto along = static_cast<double>(i);
+        points[i] = {10.0 * along, 20.0 * along, 8.0 + 0.1 * along, 48.0 + 0.1 * along};
     }
     EXPECT_EQ(TriangleBlendToPixel(points, {48.05, 8.2}), Pixel{});
     EXPECT_EQ(TriangleBlendToGeo(points, {7.0, 3.0}), geo::GeoPosition{});
