@@ -116,7 +116,7 @@ void StationListFrame::Close()
     hide();
 }
 
-void StationListFrame::ResetSortCombo()
+void StationListFrame::ResetSortCombo() const
 {
     SortCombo->setEnabled(false);
     SortCombo->setCurrentIndex(0);

@@ -37,7 +37,7 @@ public:
     void Close();
 
     // Switches the sort selector off and back to its first entry.
-    void ResetSortCombo();
+    void ResetSortCombo() const;
 
     StationListView* List1;
     QComboBox* SortCombo;

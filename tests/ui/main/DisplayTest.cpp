@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 class DisplayTest : public testing::Test {
 protected:
     // The timer's ticks without the waiting.
-    void Tick(int count)
+    void Tick(int count) const
     {
         display.Timer1->stop();
         for (int i = 0; i < count; ++i) {

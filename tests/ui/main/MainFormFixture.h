@@ -67,6 +67,10 @@ public:
 };
 
 class MainFormFixture : public testing::Test, protected ProgramRun {
+public:
+    // The folder is about to go.
+    ~MainFormFixture() override { QDir::setCurrent(QDir::rootPath()); }
+
 protected:
     void SetUp() override
     {
@@ -75,9 +79,6 @@ protected:
         PrepareFolder();
         ASSERT_TRUE(Start());
     }
-
-    // The folder is about to go.
-    ~MainFormFixture() override { QDir::setCurrent(QDir::rootPath()); }
 
     // Puts files into the program directory, which is the current one, before the program starts.
     virtual void PrepareFolder() {}
