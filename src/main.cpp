@@ -37,7 +37,7 @@ int main(int argc, char** argv)
         Native(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)));
     if (app::EnterFolder(folder)) {
         dialogs.Inform(nullptr, u"Kompasso Setup-Fehler"_s,
-                       u"Der Ordner "_s + QString::fromStdString(folder)
+                       u"Der Ordner "_s + QFile::decodeName(QByteArray::fromStdString(folder))
                            + u" lässt sich nicht anlegen oder betreten."_s);
         return EXIT_FAILURE;
     }

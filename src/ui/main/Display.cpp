@@ -57,6 +57,7 @@ void Display::Tick()
     ++ticks_;
     if (ticks_ == kLastTick) {
         hide();
+        Timer1->stop();  // nothing is left to do until the next message
     }
     // Never back to a count from which the window would hide itself a second time.
     if (ticks_ > kTickLimit) {

@@ -129,6 +129,17 @@ void StationListView::selectionChanged(const QItemSelection& selected,
     }
 }
 
+void StationListView::focusInEvent(QFocusEvent* event)
+{
+    const bool chosen = currentIndex().isValid();
+    QListView::focusInEvent(event);
+    // The list box would make the first line current by itself. Return must not load or delete a
+    // line that nobody went to.
+    if (!chosen) {
+        setCurrentIndex({});
+    }
+}
+
 void StationListView::mousePressEvent(QMouseEvent* event)
 {
     const bool plain = event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier;
@@ -171,6 +182,11 @@ void StationListView::keyPressEvent(QKeyEvent* event)
     } else if (enter && currentIndex().isValid()) {
         emit LineChosen(currentIndex().row());
     } else {
+        // Without a current line Qt would take these, too, to the first line.
+        const bool far = event->key() == Qt::Key_End || event->key() == Qt::Key_PageDown;
+        if (far && !currentIndex().isValid()) {
+            selectionModel()->setCurrentIndex(model()->index(0, 0), QItemSelectionModel::NoUpdate);
+        }
         QListView::keyPressEvent(event);
     }
 }

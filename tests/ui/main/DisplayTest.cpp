@@ -57,6 +57,7 @@ TEST_F(DisplayTest, HidesItselfAboutASecondLater)
     QTest::qWait(500);
     EXPECT_TRUE(display.isVisible());
     EXPECT_TRUE(QTest::qWaitFor([this] { return !display.isVisible(); }, 5000));
+    EXPECT_FALSE(display.Timer1->isActive()) << "the program does not wake for nothing";
 }
 
 TEST_F(DisplayTest, ShownAgainWithoutBeingLoadedItStays)

@@ -155,6 +155,9 @@ TEST_F(StationListFrameTest, ADoubleClickInModeClearDeletesOneRecordAndLoadsNoOt
 TEST_F(StationListFrameTest, ReturnInModeClearDeletesOnce)
 {
     Click("Command4_1");
+    Press(Qt::Key_Return);
+    EXPECT_EQ(state.database.Count(), 5U) << "no line is current yet";
+    Press(Qt::Key_Down);
     Press(Qt::Key_Down);
     Press(Qt::Key_Return);
     Press(Qt::Key_Return);

@@ -113,8 +113,16 @@ TEST_F(StationListViewTest, ADoubleClickChoosesOnce)
     EXPECT_EQ(Chosen(), Rows{2});
 }
 
+TEST_F(StationListViewTest, ReturnChoosesNoLineThatNobodyWentTo)
+{
+    EXPECT_EQ(CurrentRow(), -1);
+    Press(Qt::Key_Return);
+    EXPECT_EQ(Chosen(), Rows{});
+}
+
 TEST_F(StationListViewTest, ReturnAndEnterChooseTheCurrentLine)
 {
+    Press(Qt::Key_Down);
     Press(Qt::Key_Down);
     EXPECT_EQ(Chosen(), Rows{}) << "arrow keys only move";
     Press(Qt::Key_Return);
@@ -126,8 +134,9 @@ TEST_F(StationListViewTest, ReturnAndEnterChooseTheCurrentLine)
 
 TEST_F(StationListViewTest, ArrowKeysMoveAndMarkWithoutChoosing)
 {
-    EXPECT_EQ(CurrentRow(), 0) << "where the focus is at first";
-    EXPECT_EQ(Marked(), Rows{});
+    Press(Qt::Key_Down);
+    EXPECT_EQ(CurrentRow(), 0);
+    EXPECT_EQ(Marked(), Rows{0});
     Press(Qt::Key_Down);
     EXPECT_EQ(CurrentRow(), 1);
     Press(Qt::Key_Down, Qt::ShiftModifier);
