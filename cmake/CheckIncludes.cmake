@@ -23,6 +23,29 @@ foreach(folder base geo stations map app)
     endforeach()
 endforeach()
 
+# The Qt-free half of ui/map, the library map_view: it may include itself and what lies below app/.
+set(map_view CoverMask LabelPool LineClip MapGrid MapScale MapView PlotPosition PolarScale Route
+    StationPlot ViewLayout)
+foreach(name ${map_view})
+    foreach(source "${SOURCE_DIR}/src/ui/map/${name}.h" "${SOURCE_DIR}/src/ui/map/${name}.cpp")
+        if(NOT EXISTS "${source}")
+            continue()
+        endif()
+        file(STRINGS "${source}" includes REGEX "^ *# *include")
+        foreach(line ${includes})
+            if(line MATCHES "\"ui/map/([A-Za-z]+)\\.h\"")
+                if(NOT CMAKE_MATCH_1 IN_LIST map_view)
+                    string(APPEND violations "\n  ${source}: ${line}")
+                endif()
+            elseif(line MATCHES "<Q"
+                    OR (line MATCHES "\"([a-z]+)/" AND NOT CMAKE_MATCH_1 IN_LIST allowed_map
+                        AND NOT CMAKE_MATCH_1 STREQUAL "stations"))
+                string(APPEND violations "\n  ${source}: ${line}")
+            endif()
+        endforeach()
+    endforeach()
+endforeach()
+
 # The two window folders never include each other; they meet in main.cpp.
 foreach(pair "main;map" "map;main")
     list(GET pair 0 folder)

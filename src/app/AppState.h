@@ -10,6 +10,7 @@
 #include <array>
 #include <cstdint>
 
+#include "app/MapState.h"
 #include "base/NumberText.h"
 #include "geo/AngleText.h"
 #include "geo/GeoPosition.h"
@@ -71,6 +72,7 @@ struct AppState {
     stations::StationDatabase database;
     stations::Configuration configuration;
     ListState list;
+    MapState map;
     SessionState session;
     StationsShown shown;
     EntryState entry;

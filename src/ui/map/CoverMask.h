@@ -1,0 +1,57 @@
+// Which pixels of a picture are already taken by what is drawn later.
+//
+// Markers are tested from the last drawn to the first: one whose pixels are all taken by later
+// markers leaves no trace in the picture and need not be drawn.
+
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "ui/map/ViewLayout.h"
+
+namespace ui {
+
+// Pixels from `left`, `top` up to but without `right`, `bottom`; may reach beyond the picture.
+struct PixelBox {
+    int left = 0;
+    int top = 0;
+    int right = 0;
+    int bottom = 0;
+
+    bool operator==(const PixelBox&) const = default;
+};
+
+class CoverMask {
+public:
+    // All pixels free.
+    void Reset(Extent picture);
+
+    // True when every pixel of the box that lies in the picture is taken; also when none does.
+    bool Covered(const PixelBox& box) const;
+
+    // Takes the pixels of the box.
+    void Cover(const PixelBox& box);
+
+private:
+    using Word = std::uint64_t;
+
+    // The box within the picture as rows and words.
+    struct Span {
+        bool empty = true;
+        std::size_t firstRow = 0;
+        std::size_t endRow = 0;
+        std::size_t firstWord = 0;
+        std::size_t lastWord = 0;
+        Word firstMask = 0;  // the box's pixels in the first word
+        Word lastMask = 0;   // and in the last one, which may be the first
+    };
+    Span Clip(const PixelBox& box) const;
+
+    Extent picture_;
+    std::size_t wordsPerRow_ = 0;
+    std::vector<Word> taken_;
+};
+
+}  // namespace ui

@@ -1,0 +1,32 @@
+// Thin lines of the map window: scale, grid and route.
+
+#pragma once
+
+#include <QImage>
+#include <QPainter>
+
+#include "ui/map/LineClip.h"
+#include "ui/map/PlotPosition.h"
+#include "ui/map/ViewLayout.h"
+
+namespace ui {
+
+// Scale lines, rings, grid lines and route lines.
+inline constexpr QColor kLineColour{0x00, 0x00, 0x45};
+
+// Draws smoothed lines one surface unit wide. A line from one whole unit to another runs through
+// the middles of their pixels, so that upright and level lines are sharp.
+class LinePainter {
+public:
+    LinePainter(QImage& picture, Extent surface, qreal scale);
+
+    void Draw(const Line& line);
+    void Draw(SurfacePoint from, SurfacePoint to);
+    void DrawCircle(SurfacePoint centre, int radius);
+
+private:
+    QPainter painter_;
+    Extent surface_;
+};
+
+}  // namespace ui

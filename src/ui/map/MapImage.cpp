@@ -1,0 +1,112 @@
+#include "ui/map/MapImage.h"
+
+#include <limits>
+#include <utility>
+
+#include <QFile>
+#include <QImageReader>
+#include <QPainter>
+
+namespace ui {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+// What decoding needs beside the picture.
+constexpr std::uint64_t kReserve = std::uint64_t{64} << 20U;
+
+bool CanBeClipped(QImage::Format format)
+{
+    switch (format) {
+    case QImage::Format_RGB32:
+    case QImage::Format_Grayscale8:
+    case QImage::Format_Indexed8:
+    case QImage::Format_Mono:
+    case QImage::Format_MonoLSB: return true;
+    default: return false;
+    }
+}
+
+std::uint64_t BytesNeeded(const QImageReader& reader)
+{
+    const QSize size = reader.size();
+    const int depth = QImage::toPixelFormat(reader.imageFormat()).bitsPerPixel();
+    return static_cast<std::uint64_t>(size.width()) * static_cast<std::uint64_t>(size.height())
+               * static_cast<std::uint64_t>(depth > 0 ? depth : 32) / 8
+           + kReserve;
+}
+
+}  // namespace
+
+std::uint64_t FreeMemory()
+{
+    QFile file(u"/proc/meminfo"_s);
+    constexpr auto kUnknown = std::numeric_limits<std::uint64_t>::max();
+    if (!file.open(QIODevice::ReadOnly)) {
+        return kUnknown;
+    }
+    for (QByteArray line = file.readLine(); !line.isEmpty(); line = file.readLine()) {
+        const QList<QByteArray> words = line.simplified().split(' ');
+        if (words.size() >= 2 && words[0] == QByteArrayLiteral("MemAvailable:")) {
+            return words[1].toULongLong() * 1024;
+        }
+    }
+    return kUnknown;
+}
+
+PictureStatus MapImage::Load(const QString& file)
+{
+    QImageReader reader(file);
+    reader.setDecideFormatFromContent(true);
+    // The library's own limit is far below a scanned map; the free memory is the limit here.
+    QImageReader::setAllocationLimit(0);
+    const QSize size = reader.size();
+    if (!reader.canRead() || size.isEmpty()) {
+        return PictureStatus::Unreadable;
+    }
+    if (size.width() > map::kLongestEdge || size.height() > map::kLongestEdge) {
+        return PictureStatus::TooLarge;
+    }
+    if (BytesNeeded(reader) > FreeMemory()) {
+        return PictureStatus::NoMemory;
+    }
+    QImage picture = reader.read();
+    if (picture.isNull() || picture.size() != size) {
+        return PictureStatus::Unreadable;
+    }
+    Set(std::move(picture));
+    return PictureStatus::Loaded;
+}
+
+void MapImage::Set(QImage picture)
+{
+    if (picture.hasAlphaChannel()) {
+        QImage opaque(picture.size(), QImage::Format_RGB32);
+        opaque.fill(Qt::white);
+        QPainter(&opaque).drawImage(0, 0, picture);
+        picture = std::move(opaque);
+    } else if (!CanBeClipped(picture.format())) {
+        picture.convertTo(QImage::Format_RGB32);
+    }
+    picture.setDevicePixelRatio(1.0);
+    picture_ = std::move(picture);
+}
+
+QImage MapImage::Clip(const QRect& area) const
+{
+    if (picture_.format() == QImage::Format_RGB32 && picture_.rect().contains(area)) {
+        const uchar* const first =
+            picture_.constScanLine(area.top()) + static_cast<std::ptrdiff_t>(area.left()) * 4;
+        return {first, area.width(), area.height(), picture_.bytesPerLine(), picture_.format()};
+    }
+    QImage clip(area.size(), QImage::Format_RGB32);
+    clip.fill(Qt::white);
+    const QRect inside = area & picture_.rect();
+    if (!inside.isEmpty()) {
+        QPainter(&clip).drawImage(inside.topLeft() - area.topLeft(), picture_.copy(inside));
+    }
+    return clip;
+}
+
+}  // namespace ui

@@ -1,0 +1,92 @@
+// Draws the whole surface of the map window.
+
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include <QColor>
+#include <QImage>
+
+#include "app/AppState.h"
+#include "app/MainWindowPort.h"
+#include "ui/map/MapImage.h"
+#include "ui/map/MapView.h"
+#include "ui/map/MarkerLayer.h"
+#include "ui/map/StationPlot.h"
+
+namespace ui {
+
+// Symbol and label of a marker.
+inline constexpr QColor kMapInk{0xCC, 0xCC, 0xCC};
+inline constexpr QColor kPolarInk{0xEE, 0xEE, 0xEE};
+
+// Whom a marker stands for.
+struct MarkerSource {
+    enum class Kind : std::uint8_t { Record, Station1, Station2, Reference };
+    Kind kind = Kind::Record;
+    std::uint32_t index = 0;  // of the record or the reference point
+};
+
+class MapPainter {
+public:
+    MapPainter(const app::AppState& state, const MapImage& image,
+               const app::MainWindowPort& mainWindow);
+
+    // Draws everything anew: ground, polar scale, marked and unmarked stations in the order of the
+    // database, Station 1 and 2, reference points, grid, route. `frame` is a 32-bit picture without
+    // alpha with `scale` pixels per surface unit, `plate` the colour under markers and labels.
+    void Redraw(QImage& frame, const MapView& view, qreal scale, QColor plate);
+
+    // Whose marker is the topmost at a point of the frame drawn last.
+    std::optional<MarkerSource> MarkerAt(SurfacePoint point) const;
+
+    // The markers of the frame drawn last, in the order of drawing.
+    std::span<const Marker> Markers() const { return markers_; }
+    std::string_view LabelOf(const Marker& marker) const { return layer_.Text(marker.label); }
+
+private:
+    void DrawGround(QImage& frame, const MapView& view, const MarkerPainter& marker);
+    void DrawLines(QImage& frame, const MapView& view) const;
+    void CollectMarkers(const MapView& view);
+    void CollectStations(const MapView& view);
+    void UpdateLabels();
+    ImageModel CurrentModel() const;
+
+    // Offset from the centre in the polar view, surface position in the map view; unrounded.
+    map::Pixel Plot(const MapView& view, geo::GeoPosition position) const;
+
+    // Adds the marker unless it stands too far outside.
+    void AddMarker(const MapView& view, map::Pixel plotted, LabelId label, MarkerSource source);
+
+    const app::AppState& state_;
+    const MapImage& image_;
+    const app::MainWindowPort& mainWindow_;
+
+    StationPlot plot_;
+    MarkerLayer layer_;
+    std::vector<LabelId> recordLabels_;
+    std::vector<Marker> markers_;
+    std::vector<MarkerSource> sources_;  // of markers_
+    std::optional<MarkerPainter> marker_;
+    qreal scale_ = 1.0;
+
+    // The polar scale as drawn last, and what it was drawn for.
+    struct ScaleKey {
+        QSize frame;
+        Extent surface;
+        qreal scale;
+        std::int16_t zoomLevel;
+        QRgb plate;
+
+        bool operator==(const ScaleKey&) const = default;
+    };
+    std::optional<ScaleKey> scaleKey_;
+    QImage scalePicture_;
+};
+
+}  // namespace ui

@@ -1,0 +1,78 @@
+#include "ui/map/PlotPosition.h"
+
+#include <cmath>
+
+#include "base/Rounding.h"
+#include "geo/Distance.h"
+
+namespace ui {
+
+namespace {
+
+constexpr double kPlotLimit = 65000.0;
+
+// The plot has always been computed with these ten digits of pi.
+constexpr double kPlotRadiansPerDegree = 3.141592654 / 180.0;
+
+bool Drawable(double value)
+{
+    return value > -kPlotLimit && value < kPlotLimit;
+}
+
+}  // namespace
+
+std::optional<SurfacePoint> WholePosition(double x, double y)
+{
+    const double wholeX = base::RoundHalfEven(x);
+    const double wholeY = base::RoundHalfEven(y);
+    if (!Drawable(wholeX) || !Drawable(wholeY)) {
+        return std::nullopt;
+    }
+    return SurfacePoint{.x = static_cast<int>(wholeX), .y = static_cast<int>(wholeY)};
+}
+
+PolarPosition PolarFrom(geo::GeoPosition station1, geo::GeoPosition position)
+{
+    const geo::DistanceAndBearing seen = geo::DistanceAndRawBearing(station1, position);
+    const double bearing = seen.rawBearing * kPlotRadiansPerDegree;
+    return {.distance = seen.distance, .cosine = std::cos(bearing), .sine = std::sin(bearing)};
+}
+
+map::Pixel PolarOffset(const PolarPosition& position, double scale)
+{
+    const double radius = position.distance * scale;
+    return {.x = radius * position.cosine, .y = radius * position.sine};
+}
+
+double PolarUnitsPerKilometre(Extent surface, float viewRange)
+{
+    return surface.height / 2.0 / static_cast<double>(viewRange);
+}
+
+SurfacePoint AtCentre(Extent surface, SurfacePoint offset)
+{
+    return {
+        .x = static_cast<int>(base::RoundHalfEven(surface.width / 2.0 + offset.x)),
+        .y = static_cast<int>(base::RoundHalfEven(surface.height / 2.0 + offset.y)),
+    };
+}
+
+map::Pixel InterpolatedPixel(const map::EdgeCoordinates& edges, map::ImageSize image,
+                             geo::GeoPosition position)
+{
+    return {
+        .x = (position.longitude - edges.left) * image.width / (edges.right - edges.left),
+        .y = (edges.upper - position.latitude) * image.height / (edges.upper - edges.lower),
+    };
+}
+
+geo::GeoPosition InterpolatedPosition(const map::EdgeCoordinates& edges, map::ImageSize image,
+                                      map::Pixel pixel)
+{
+    return {
+        .latitude = edges.upper + (edges.lower - edges.upper) * pixel.y / image.height,
+        .longitude = edges.left + (edges.right - edges.left) * pixel.x / image.width,
+    };
+}
+
+}  // namespace ui

@@ -1,0 +1,62 @@
+#include "ui/map/PolarPicture.h"
+
+#include <QPainter>
+
+#include "base/Rounding.h"
+#include "ui/map/LinePainter.h"
+#include "ui/map/PolarScale.h"
+
+namespace ui {
+
+namespace {
+
+// The plate from the ring's topmost point, in surface units; its lower right corner belongs to it.
+constexpr int kPlateMargin = 2;
+constexpr int kPlateTop = 4;
+constexpr int kPlateBottom = 12;
+constexpr int kTextTop = 2;
+
+void DrawLabel(QPainter& painter, SurfacePoint top, const std::string& label, qreal scale,
+               const MarkerPainter& marker)
+{
+    const int width = marker.TextWidth(label);
+    const double left = top.x - width / 2.0;
+    const auto whole = [scale](double units) {
+        return base::Saturate<int>(base::RoundHalfEven(base::RoundHalfEven(units) * scale));
+    };
+    const int plateLeft = whole(left - kPlateMargin);
+    const int plateRight = whole(base::RoundHalfEven(top.x + width / 2.0 + kPlateMargin) + 1.0);
+    const int plateTop = whole(top.y + kPlateTop);
+    const int plateBottom = whole(top.y + kPlateBottom + 1.0);
+    painter.fillRect(plateLeft, plateTop, plateRight - plateLeft, plateBottom - plateTop,
+                     marker.PlateColour());
+    painter.setPen(marker.Ink());
+    painter.drawText(whole(left), whole(top.y + kTextTop + kLabelBaseline),
+                     QString::fromStdString(label));
+}
+
+}  // namespace
+
+void DrawPolarScale(QImage& picture, Extent surface, int zoomLevel, qreal scale,
+                    const MarkerPainter& marker, const base::NumberFormat& format)
+{
+    const PolarScale polar = DrawPolarScale(surface, zoomLevel, format);
+    picture.fill(kPolarGround);
+    {
+        LinePainter lines(picture, surface, scale);
+        for (const Segment& radial : polar.radials) {
+            lines.Draw(radial.from, radial.to);
+        }
+        for (const RangeRing& ring : polar.rings) {
+            lines.DrawCircle(polar.centre, ring.radius);
+        }
+    }
+    QPainter painter(&picture);
+    painter.setFont(LabelFont(scale));
+    for (const RangeRing& ring : polar.rings) {
+        DrawLabel(painter, {.x = polar.centre.x, .y = polar.centre.y - ring.radius}, ring.label,
+                  scale, marker);
+    }
+}
+
+}  // namespace ui

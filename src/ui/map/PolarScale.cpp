@@ -1,0 +1,57 @@
+#include "ui/map/PolarScale.h"
+
+#include <cmath>
+
+#include "base/Rounding.h"
+#include "geo/Radians.h"
+
+namespace ui {
+
+namespace {
+
+constexpr int kSmallestKilometreSpacing = 900;  // m
+
+int Whole(double value)
+{
+    return base::Saturate<int>(base::RoundHalfEven(value));
+}
+
+std::vector<Segment> Radials(Extent surface)
+{
+    const double cx = surface.width / 2.0;
+    const double cy = surface.height / 2.0;
+    std::vector<Segment> lines;
+    for (int angle = 0; angle <= 80; angle += 10) {
+        const double dx = cy * std::tan(angle * geo::kRadiansPerDegree);
+        const int left = Whole(cx - dx);
+        const int right = Whole(cx + dx);
+        lines.push_back({.from = {left, surface.height}, .to = {right, 0}});
+        lines.push_back({.from = {right, surface.height}, .to = {left, 0}});
+    }
+    lines.push_back({.from = {0, Whole(cy)}, .to = {surface.width, Whole(cy)}});
+    return lines;
+}
+
+}  // namespace
+
+PolarScale DrawPolarScale(Extent surface, int zoomLevel, const base::NumberFormat& format)
+{
+    const MapScale scale = ComputeScale(zoomLevel);
+    const double cy = surface.height / 2.0;
+    PolarScale result{
+        .centre = {Whole(surface.width / 2.0), Whole(cy)},
+        .radials = Radials(surface),
+        .rings = {},
+    };
+    const bool kilometres = scale.ringSpacing >= kSmallestKilometreSpacing;
+    for (int ring = 1; ring <= scale.RingCount(); ++ring) {
+        const double metres = static_cast<double>(scale.ringSpacing) * ring;
+        result.rings.push_back({
+            .radius = Whole(metres * cy / scale.viewRange),
+            .label = kilometres ? format(metres / 1000.0, "# km") : format(metres, "# m"),
+        });
+    }
+    return result;
+}
+
+}  // namespace ui

@@ -1,0 +1,51 @@
+#include "ui/map/ViewLayout.h"
+
+#include <algorithm>
+
+namespace ui {
+
+namespace {
+
+Extent AtLeastSmallest(Extent area)
+{
+    return {.width = std::max(area.width, kSmallestSurface),
+            .height = std::max(area.height, kSmallestSurface)};
+}
+
+Extent Available(Extent inner)
+{
+    return AtLeastSmallest(
+        {.width = inner.width - kRightStrip, .height = inner.height - kLowerStrip});
+}
+
+}  // namespace
+
+ViewLayout PolarLayout(Extent inner)
+{
+    return {.surface = Available(inner)};
+}
+
+ViewLayout ImageLayout(Extent inner, Extent image)
+{
+    ViewLayout layout{.surface = Available(inner)};
+    Extent& area = layout.surface;
+    for (bool changed = true; changed;) {
+        changed = false;
+        if (image.width > area.width && !layout.horizontalBar) {
+            layout.horizontalBar = true;
+            area.height -= kBarThickness;
+            changed = true;
+        }
+        if (image.height > area.height && !layout.verticalBar) {
+            layout.verticalBar = true;
+            area.width -= kBarThickness;
+            changed = true;
+        }
+        area = AtLeastSmallest(area);
+    }
+    area.width = std::min(area.width, image.width);
+    area.height = std::min(area.height, image.height);
+    return layout;
+}
+
+}  // namespace ui
