@@ -43,15 +43,6 @@ TEST(MakeGrid, BeginsAtAWholeMultipleAtOrBelowTheSouthWesternCorner)
     EXPECT_NEAR(grid->At(0, 0).y, (48.51 - 48.0) / 0.5 * 1000.0, 0.01);
 }
 
-TEST(MakeGrid, NoneWithoutFinitePositionsOfTheCorners)
-{
-    map::ReferenceTable table;
-    const double infinity = std::numeric_limits<double>::infinity();
-    table.Replace({{0.0, 0.0, 11.0, 48.0}, {0.0, 10.0, 11.0, infinity}, {10.0, 0.0, 12.0, 48.0}},
-                  3);
-    EXPECT_FALSE(MakeGrid(table, {100, 100}, map::Refinement::Off).has_value());
-}
-
 TEST(MakeGrid, NoneWithMoreThanAThousandLines)
 {
     const map::ImageSize size{100, 100};

@@ -1,0 +1,134 @@
+// The map window: stations around Station 1 on a polar scale, or on a map image.
+//
+// It exists only while it is open. What it shows and what is to survive it stands in the shared
+// state; the route, the grid and the marks of MnuSel and MnuAlle end with the window.
+
+#pragma once
+
+#include <initializer_list>
+
+#include <QMainWindow>
+
+#include "app/AppState.h"
+#include "app/MainWindowPort.h"
+#include "ui/map/MapFiles.h"
+#include "ui/map/MapImage.h"
+#include "ui/map/MapMouse.h"
+#include "ui/map/MapPainter.h"
+#include "ui/map/MapView.h"
+
+class QListWidget;
+class QPushButton;
+class QScrollBar;
+
+namespace ui {
+
+class MapPicture;
+class UserDialogs;
+
+class Gform : public QMainWindow {
+    Q_OBJECT
+
+public:
+    // All four outlive the window.
+    Gform(app::AppState& state, MapImage& image, app::MainWindowPort& mainWindow,
+          UserDialogs& dialogs);
+
+    // Draws the whole surface anew, in the next paint event.
+    void Redraw();
+
+    // To be called when a station or the database changed in the main window: redraws when the
+    // configuration says so.
+    void AutoRedraw();
+
+    QPushButton* Command1 = nullptr;  // "IN": zooms in, polar view
+    QPushButton* Command2 = nullptr;  // "OUT": zooms out
+    QListWidget* List1 = nullptr;     // the properties report; a click opens it
+    QScrollBar* HScroll1 = nullptr;   // the clip's place in the image, map view
+    QScrollBar* VScroll1 = nullptr;
+    MapPicture* Picture1 = nullptr;  // the drawing surface
+
+protected:
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    struct MenuItem;
+
+    // While one lives, what the user sees of this program counts as this window.
+    class OwnDialogs {
+    public:
+        explicit OwnDialogs(Gform& form) : form_(form) { ++form_.ownDialogs_; }
+        ~OwnDialogs() { --form_.ownDialogs_; }
+        OwnDialogs(const OwnDialogs&) = delete;
+        OwnDialogs& operator=(const OwnDialogs&) = delete;
+
+    private:
+        Gform& form_;
+    };
+
+    void AddControls();
+    void AddMenus();
+    void AddFileMenu();
+    void AddDisplayMenu();
+    void AddEditMenu();
+    void AddClickMenu();
+    QMenu* NewMenu(const char* name, const QString& caption);
+    void AddItems(QMenu* menu, std::initializer_list<MenuItem> items);
+    QAction* Item(const char* name) const;
+    void ShowSwitches();
+    void OfferClickModes(QPoint point);
+
+    void Activate();
+    void Layout();
+    void LayoutStrip(int left);
+    void ShowClip();
+
+    void SetImageMode(bool on);
+    void SetReferenceMode(bool on);
+    void ShowReferenceMode();
+    void SetClickMode(app::ClickMode mode);
+    void SetLabelChoice(std::int16_t choice);
+
+    void ZoomIn();
+    void ZoomOut();
+    void Scroll(int dx, int dy);
+    void Turn(QPoint eighths);
+
+    void Press(SurfacePoint point);
+    void Click();
+
+    // Menu commands.
+    void LoadMap();
+    void LeaveMap();
+    void Toggle(bool stations::Configuration::*shown, bool on);
+    void ToggleGrid(bool on);
+    void SaveAdjustment();
+    void SaveCalibration();
+    void ReferencesFromBounds();
+    void ClearAllReferences();
+    void ClearLastReference();
+    void ContinueRoute();
+    void ShowProperties();
+    void FoldProperties();
+
+    QString HintAt(SurfacePoint point) const;
+
+    app::AppState& state_;
+    MapImage& image_;
+    app::MainWindowPort& mainWindow_;
+    UserDialogs& dialogs_;
+
+    MapView view_;
+    MapPainter painter_;
+    MapMouse mouse_;
+    MapFiles files_;
+
+    int ownDialogs_ = 0;             // dialogs and message boxes of this window that are open
+    bool leftForOwnDialog_ = false;  // the window gave its activation to one of them
+    QPoint turned_;                  // of the wheel, not yet acted upon
+    bool propertiesOpen_ = false;
+};
+
+}  // namespace ui

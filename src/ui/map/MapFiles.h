@@ -1,0 +1,56 @@
+// The files of a map: its picture, the adjustment file and the UI-View file beside it.
+
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "app/AppState.h"
+#include "map/CompanionNames.h"
+#include "ui/map/MapImage.h"
+
+class QString;
+class QWidget;
+
+namespace ui {
+
+class UserDialogs;
+
+class MapFiles {
+public:
+    MapFiles(app::AppState& state, MapImage& image, UserDialogs& dialogs, QWidget* window);
+
+    // "Landkarte laden": asks for a picture and loads it with what its companions hold. False, with
+    // everything as it was, when the user cancels or the picture cannot be loaded.
+    bool Load();
+
+    // "Justage speichern".
+    void SaveAdjustment();
+
+    // "UI-View INF File erzeugen".
+    void SaveCalibration();
+
+    // "Referenz aus INF erzeugen": four references at the corners of the image.
+    void ReferencesFromBounds();
+
+private:
+    bool LoadPicture(const QString& file);
+    void ReadCalibration();
+    void ReadAdjustment();
+    void RememberName(const QString& file);
+
+    // The companion to read or replace; none for a picture name without a dot.
+    std::optional<std::string> Companion(map::Companion companion) const;
+
+    // Companion for writing. None, and told, with fewer than three references or no dot.
+    std::optional<std::string> WritableCompanion(map::Companion companion);
+
+    void Tell(const QString& text);
+
+    app::AppState& state_;
+    MapImage& image_;
+    UserDialogs& dialogs_;
+    QWidget* window_;
+};
+
+}  // namespace ui

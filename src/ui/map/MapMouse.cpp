@@ -1,0 +1,121 @@
+#include "ui/map/MapMouse.h"
+
+#include <ctime>
+
+#include <QString>
+
+#include "base/TimeStamp.h"
+#include "geo/AngleText.h"
+#include "map/Georeference.h"
+#include "ui/UserDialogs.h"
+
+namespace ui {
+
+using namespace Qt::StringLiterals;
+
+MapMouse::MapMouse(app::AppState& state, const MapImage& image, app::MainWindowPort& mainWindow,
+                   UserDialogs& dialogs, QWidget* window)
+    : state_(state), image_(image), mainWindow_(mainWindow), dialogs_(dialogs), window_(window)
+{
+}
+
+geo::GeoPosition MapMouse::Convert(double tolerance, bool refined)
+{
+    const map::ReferenceTable& table = state_.map.references;
+    if (!table.ReferenceMode()) {
+        deviation_ = 0.0;
+        return InterpolatedPosition(state_.map.edges, image_.Size(),
+                                    {.x = static_cast<double>(x_), .y = static_cast<double>(y_)});
+    }
+    const map::FoundPosition found = map::PixelToGeo(
+        table, x_, y_, tolerance, refined ? map::Refinement::On : map::Refinement::Off);
+    deviation_ = found.error;
+    return found.position;
+}
+
+geo::GeoPosition MapMouse::ClickedPosition()
+{
+    return Convert(map::kClickTolerance, state_.configuration.optimisedOutput);
+}
+
+QString MapMouse::Press(SurfacePoint point, SurfacePoint clipOrigin)
+{
+    x_ = clipOrigin.x + point.x;
+    y_ = clipOrigin.y + point.y;
+    // The readout has a switch of its own and a coarser tolerance than a click.
+    const geo::GeoPosition position =
+        Convert(map::kPointerTolerance, state_.configuration.optimisedDisplay);
+    const geo::DegreeMinuteMode mode = state_.entry.degreeMinuteMode;
+    return QString::fromStdString(geo::ListingAngle(position.latitude, mode) + ' '
+                                  + geo::ListingAngle(position.longitude, mode));
+}
+
+stations::StationTexts MapMouse::TextsOf(const std::string& callsign) const
+{
+    return {
+        .callsign = callsign,
+        .name = {},
+        .place = "X/Y: " + std::to_string(x_) + ' ' + std::to_string(y_),
+        .frequency = {},
+        .remark = "Projektionsabw: " + state_.numberFormat(deviation_, "0.00") + " Pixel",
+        .date = base::TimeStamp(std::time(nullptr)),
+    };
+}
+
+void MapMouse::SetStation(int station)
+{
+    const geo::GeoPosition position = ClickedPosition();
+    mainWindow_.SetStation(station, TextsOf("Station " + std::to_string(station + 1)), position);
+    mainWindow_.S1S2_Update();
+}
+
+ClickResult MapMouse::AddLandmark()
+{
+    const geo::GeoPosition position = ClickedPosition();
+    const base::NumberFormat& format = state_.numberFormat;
+    const stations::StationTexts texts = TextsOf("LM" + format(landmarks_ + 1.0, "000"));
+    if (!mainWindow_.AppendRecord(stations::BuildRecord(texts, position, texts.date))) {
+        return {};
+    }
+    ++landmarks_;
+    mainWindow_.List1Load();
+    mainWindow_.UpdateQTHFile();
+    return {.redraw = true};
+}
+
+ClickResult MapMouse::AddReference()
+{
+    switch (state_.map.references.AddStation2Reference(x_, y_, state_.shown.position[1])) {
+    case map::AddResult::Added: return {.redraw = true, .referenceAdded = true, .nextMode = {}};
+    case map::AddResult::Duplicate:
+        dialogs_.Inform(window_, {}, u"Diese Referenz existiert bereits!"_s);
+        break;
+    case map::AddResult::Full:
+        dialogs_.Inform(window_, {}, u"Mehr Referenzpunkte fasst die Karte nicht."_s);
+        break;
+    }
+    return {};
+}
+
+ClickResult MapMouse::Click(Route& route)
+{
+    switch (state_.map.clickMode) {
+    case app::ClickMode::Nop: return {};
+    case app::ClickMode::SetStation1: SetStation(0); return {.redraw = true};
+    case app::ClickMode::SetStation2: SetStation(1); return {.redraw = true};
+    case app::ClickMode::AddLandmark: return AddLandmark();
+    case app::ClickMode::Station2AsReference: return AddReference();
+    case app::ClickMode::DeleteReference:
+        state_.map.references.DeleteNearestReference(x_, y_);
+        return {.redraw = true};
+    case app::ClickMode::RouteStart:
+        route.Append({.pen = Pen::Up, .position = ClickedPosition()});
+        return {.redraw = true, .referenceAdded = false, .nextMode = app::ClickMode::RouteContinue};
+    case app::ClickMode::RouteContinue:
+        route.Append({.pen = Pen::Down, .position = ClickedPosition()});
+        return {.redraw = true};
+    }
+    return {};
+}
+
+}  // namespace ui

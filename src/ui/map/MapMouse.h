@@ -1,0 +1,63 @@
+// What a press and a click on the map do.
+
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "app/AppState.h"
+#include "app/MainWindowPort.h"
+#include "ui/map/MapImage.h"
+#include "ui/map/PlotPosition.h"
+#include "ui/map/Route.h"
+
+class QString;
+class QWidget;
+
+namespace ui {
+
+class UserDialogs;
+
+// What the window has to do after a click.
+struct ClickResult {
+    bool redraw = false;
+    bool referenceAdded = false;                  // the reference mode is on now
+    std::optional<app::ClickMode> nextMode = {};  // to be set
+};
+
+class MapMouse {
+public:
+    MapMouse(app::AppState& state, const MapImage& image, app::MainWindowPort& mainWindow,
+             UserDialogs& dialogs, QWidget* window);
+
+    // Map view: captures the image pixel at a point of the surface, and its position. The result is
+    // the window's caption: latitude and longitude in degrees and minutes.
+    QString Press(SurfacePoint point, SurfacePoint clipOrigin);
+
+    // Map view: does what the click mode says with the pixel captured last.
+    ClickResult Click(Route& route);
+
+private:
+    // The position of the captured pixel, as exact as the switch allows; sets the deviation.
+    geo::GeoPosition Convert(double tolerance, bool refined);
+    geo::GeoPosition ClickedPosition();
+
+    stations::StationTexts TextsOf(const std::string& callsign) const;
+    void SetStation(int station);
+    ClickResult AddLandmark();
+    ClickResult AddReference();
+
+    app::AppState& state_;
+    const MapImage& image_;
+    app::MainWindowPort& mainWindow_;
+    UserDialogs& dialogs_;
+    QWidget* window_;
+
+    // The mouse pixel, of the whole image.
+    std::int32_t x_ = 0;
+    std::int32_t y_ = 0;
+    double deviation_ = 0.0;  // of the last converted point, in pixels
+    std::int32_t landmarks_ = 0;
+};
+
+}  // namespace ui

@@ -1,0 +1,97 @@
+#include "ui/map/MapPicture.h"
+
+#include <utility>
+
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolTip>
+#include <QWheelEvent>
+
+namespace ui {
+
+namespace {
+
+SurfacePoint ToSurface(QPoint point)
+{
+    return {.x = point.x(), .y = point.y()};
+}
+
+}  // namespace
+
+MapPicture::MapPicture(Draw draw, Hint hint, QWidget* parent)
+    : QWidget(parent), draw_(std::move(draw)), hint_(std::move(hint))
+{
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+void MapPicture::Redraw()
+{
+    stale_ = true;
+    update();
+}
+
+void MapPicture::DrawIfStale()
+{
+    const qreal scale = devicePixelRatioF();
+    const QSize size = (QSizeF(width(), height()) * scale).toSize();
+    if (!stale_ && frame_.size() == size && frame_.devicePixelRatio() == scale) {
+        return;
+    }
+    if (frame_.size() != size) {
+        frame_ = QImage(size, QImage::Format_RGB32);
+    }
+    frame_.setDevicePixelRatio(1.0);
+    draw_(frame_, scale);
+    frame_.setDevicePixelRatio(scale);
+    stale_ = false;
+}
+
+void MapPicture::paintEvent(QPaintEvent* /*event*/)
+{
+    DrawIfStale();
+    QPainter(this).drawImage(0, 0, frame_);
+}
+
+void MapPicture::mousePressEvent(QMouseEvent* event)
+{
+    leftPressed_ = event->button() == Qt::LeftButton;
+    emit Pressed(ToSurface(event->position().toPoint()));
+}
+
+void MapPicture::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton && std::exchange(leftPressed_, false)
+        && rect().contains(event->position().toPoint())) {
+        emit Clicked();
+    }
+}
+
+void MapPicture::wheelEvent(QWheelEvent* event)
+{
+    const QPoint turned = event->angleDelta();
+    const bool sideways = event->modifiers().testFlag(Qt::ShiftModifier);
+    emit Turned(sideways ? QPoint(turned.x() + turned.y(), 0) : turned);
+    event->accept();
+}
+
+bool MapPicture::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip) {
+        return QWidget::event(event);
+    }
+    const auto* const help = static_cast<QHelpEvent*>(event);
+    const QString text = hint_(ToSurface(help->pos()));
+    if (text.isEmpty()) {
+        QToolTip::hideText();
+    } else {
+        // The texts of a station are shown as they are, whatever they contain.
+        QToolTip::showText(
+            help->globalPos(),
+            QStringLiteral("<p style='white-space:pre'>%1</p>").arg(text.toHtmlEscaped()), this);
+    }
+    return true;
+}
+
+}  // namespace ui
