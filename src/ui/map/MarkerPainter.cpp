@@ -93,6 +93,9 @@ MarkerPainter::MarkerPainter(qreal scale, QColor plate, QColor ink)
 
 int MarkerPainter::Device(int units) const
 {
+    if (scale_ == 1.0) {
+        return units;
+    }
     return base::Saturate<int>(base::RoundHalfEven(units * scale_));
 }
 

@@ -1,6 +1,7 @@
 #include "ui/map/PlotPosition.h"
 
 #include <cmath>
+#include <cstdlib>
 
 #include "base/Rounding.h"
 #include "geo/Distance.h"
@@ -14,21 +15,34 @@ constexpr double kPlotLimit = 65000.0;
 // The plot has always been computed with these ten digits of pi.
 constexpr double kPlotRadiansPerDegree = 3.141592654 / 180.0;
 
-bool Drawable(double value)
+// RoundHalfEven by integers: 25000 stations are rounded twice for every frame.
+std::optional<int> Whole(double value)
 {
-    return value > -kPlotLimit && value < kPlotLimit;
+    if (!(value > -kPlotLimit && value < kPlotLimit)) {
+        return std::nullopt;
+    }
+    const auto towardsZero = static_cast<int>(value);
+    const double rest = value - towardsZero;
+    const bool odd = towardsZero % 2 != 0;
+    int whole = towardsZero;
+    if (rest > 0.5 || (rest == 0.5 && odd)) {
+        ++whole;
+    } else if (rest < -0.5 || (rest == -0.5 && odd)) {
+        --whole;
+    }
+    return std::abs(whole) < kPlotLimit ? std::optional(whole) : std::nullopt;
 }
 
 }  // namespace
 
 std::optional<SurfacePoint> WholePosition(double x, double y)
 {
-    const double wholeX = base::RoundHalfEven(x);
-    const double wholeY = base::RoundHalfEven(y);
-    if (!Drawable(wholeX) || !Drawable(wholeY)) {
+    const std::optional<int> wholeX = Whole(x);
+    const std::optional<int> wholeY = Whole(y);
+    if (!wholeX || !wholeY) {
         return std::nullopt;
     }
-    return SurfacePoint{.x = static_cast<int>(wholeX), .y = static_cast<int>(wholeY)};
+    return SurfacePoint{.x = *wholeX, .y = *wholeY};
 }
 
 PolarPosition PolarFrom(geo::GeoPosition station1, geo::GeoPosition position)

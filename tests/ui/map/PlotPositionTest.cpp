@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include "base/Rounding.h"
 #include "geo/Distance.h"
 #include "ui/map/MapScale.h"
 
@@ -82,6 +83,17 @@ TEST(WholePosition, RoundsHalvesToTheEvenNeighbour)
     EXPECT_EQ(WholePosition(0.5, 1.5), (SurfacePoint{0, 2}));
     EXPECT_EQ(WholePosition(-0.5, -1.5), (SurfacePoint{0, -2}));
     EXPECT_EQ(WholePosition(2.4999, -2.5001), (SurfacePoint{2, -3}));
+}
+
+TEST(WholePosition, RoundsLikeEverythingElse)
+{
+    for (int eighths = -800; eighths <= 800; ++eighths) {
+        for (const double offset : {0.0, 1e-12, -1e-12}) {
+            const double value = eighths / 8.0 + offset;
+            const int expected = static_cast<int>(base::RoundHalfEven(value));
+            EXPECT_EQ(WholePosition(value, -value), (SurfacePoint{expected, -expected})) << value;
+        }
+    }
 }
 
 TEST(WholePosition, LeavesOutWhatIsFarAway)
