@@ -55,7 +55,7 @@ std::uint64_t FreeMemory()
     return kUnknown;
 }
 
-PictureStatus MapImage::Load(const QString& file)
+PictureStatus MapImage::Load(const QString& file, std::uint64_t freeMemory)
 {
     QImageReader reader(file);
     reader.setDecideFormatFromContent(true);
@@ -68,7 +68,7 @@ PictureStatus MapImage::Load(const QString& file)
     if (size.width() > map::kLongestEdge || size.height() > map::kLongestEdge) {
         return PictureStatus::TooLarge;
     }
-    if (BytesNeeded(reader) > FreeMemory()) {
+    if (BytesNeeded(reader) > freeMemory) {
         return PictureStatus::NoMemory;
     }
     QImage picture = reader.read();

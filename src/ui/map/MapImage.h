@@ -4,6 +4,8 @@
 
 #pragma once
 
+#include <cstdint>
+
 #include <QImage>
 #include <QRect>
 #include <QString>
@@ -19,10 +21,15 @@ enum class PictureStatus {
     NoMemory,    // larger than the memory that is free
 };
 
+// Bytes of memory that can be used without putting other programs out of it; the largest number
+// where the system does not tell.
+std::uint64_t FreeMemory();
+
 class MapImage {
 public:
-    // Loads a JPEG, GIF or PNG file. Unless the result is Loaded, the old picture stays.
-    PictureStatus Load(const QString& file);
+    // Loads a JPEG, GIF or PNG file. Unless the result is Loaded, the old picture stays; until the
+    // new one is whole, both are in memory.
+    PictureStatus Load(const QString& file, std::uint64_t freeMemory = FreeMemory());
 
     // Takes a picture over. One with transparent parts gets a white ground.
     void Set(QImage picture);
@@ -37,9 +44,5 @@ public:
 private:
     QImage picture_;
 };
-
-// Bytes of memory that can be used without putting other programs out of it; the largest number
-// where the system does not tell.
-std::uint64_t FreeMemory();
 
 }  // namespace ui

@@ -1,0 +1,109 @@
+#include "ui/map/MapHint.h"
+
+#include <QToolTip>
+
+#include "ui/map/GformFixture.h"
+
+namespace ui {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+TEST(StationHint, TellsWhoItIsHowFarAndWhere)
+{
+    app::AppState state;
+    state.shown.position[0] = {48.0, 11.0};
+    stations::StationTexts texts;
+    texts.callsign = "DL1ABC";
+    texts.place = "Dachau";
+    const geo::GeoPosition east{48.0, 11.1};
+    const std::string hint =
+        StationHint(state, stations::BuildRecord(texts, east, "2024.01.01-00:00:00"), east);
+    EXPECT_EQ(hint.substr(0, hint.find("Entfernung")), "DL1ABC\nDachau\n");
+    EXPECT_NE(hint.find("Entfernung = 7.4"), std::string::npos) << hint;
+    EXPECT_NE(hint.find("Richtung von Station 1: 89.96 Grad"), std::string::npos) << hint;
+}
+
+// A plain map with one point that lies 10 pixels beside its place.
+map::ReferenceTable WithOneWrong()
+{
+    map::ReferenceTable table;
+    const double wrong = 10.0;
+    table.Replace({{0, 0, 10, 49},
+                   {1000, 0, 11, 49},
+                   {0, 1000, 10, 48},
+                   {1000, 1000, 11, 48},
+                   {500 + wrong, 500, 10.5, 48.5}},
+                  5);
+    return table;
+}
+
+TEST(MissedBy, AWronglyPlacedPointStandsOut)
+{
+    const map::ReferenceTable table = WithOneWrong();
+    ASSERT_TRUE(MissedBy(table, 4).has_value());
+    EXPECT_NEAR(*MissedBy(table, 4), 10.0, 1e-6);
+}
+
+TEST(MissedBy, NothingWhereTheOthersDetermineNoPosition)
+{
+    map::ReferenceTable table;
+    table.Replace({{100, 100, 10.1, 48.9}, {900, 100, 10.9, 48.9}, {500, 900, 10.5, 48.1}}, 3);
+    EXPECT_FALSE(MissedBy(table, 0).has_value()) << "two others";
+    table.Replace({{100, 100, 10.1, 48.9},
+                   {200, 200, 10.2, 48.8},
+                   {300, 300, 10.3, 48.7},
+                   {500, 900, 10.5, 48.1}},
+                  4);
+    EXPECT_FALSE(MissedBy(table, 3).has_value()) << "three others in one line";
+    EXPECT_TRUE(MissedBy(table, 0).has_value());
+}
+
+TEST(ReferenceHint, TellsNumberAndDeviation)
+{
+    app::AppState state;
+    state.map.references = WithOneWrong();
+    EXPECT_EQ(ReferenceHint(state, 4), "Referenzpunkt 5\nAbweichung von den \xC3\xBC"
+                                       "brigen: 10.00 Pixel");
+    state.map.references.SetReferenceMode(false);
+    state.map.references.AddStation2Reference(1, 2, {3, 4});
+    EXPECT_EQ(ReferenceHint(state, 0), "Referenzpunkt 1");
+}
+
+class HintTest : public GformFixture {
+protected:
+    QString HintAt(QPoint point) const
+    {
+        QHelpEvent event(QEvent::ToolTip, point, form->Picture1->mapToGlobal(point));
+        QCoreApplication::sendEvent(form->Picture1, &event);
+        // A hint that goes away does so a moment later.
+        QTest::qWaitFor([&event] { return event.isAccepted() && !QToolTip::isVisible(); }, 500);
+        return QToolTip::text();
+    }
+};
+
+TEST_F(HintTest, RestingOnAMarkerTellsWhoseItIs)
+{
+    AddRecord({48.05, 11.0}, "DL1<b>ABC");
+    Open(880, 620);
+    Picture();
+    // 5.56 km of 10 on a half height of 300.
+    const QString hint = HintAt({400, 300 - 167});
+    EXPECT_TRUE(hint.contains(u"DL1&lt;b&gt;ABC"_s)) << hint.toStdString();
+    EXPECT_TRUE(hint.contains(u"Entfernung"_s));
+    EXPECT_TRUE(HintAt({400, 300}).contains(u"S1"_s));
+    EXPECT_TRUE(HintAt({100, 100}).isEmpty());
+}
+
+TEST_F(HintTest, RestingOnAReferenceTellsItsNumber)
+{
+    Open(880, 620);
+    LoadMap(MapFile(400, 300));
+    Choose("MnuRefInf");
+    Picture();
+    EXPECT_TRUE(HintAt({1, 1}).contains(u"Referenzpunkt 1"_s));
+    EXPECT_TRUE(HintAt({399, 298}).contains(u"Referenzpunkt 4"_s));
+}
+
+}  // namespace
+}  // namespace ui
