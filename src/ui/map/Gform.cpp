@@ -109,7 +109,7 @@ void Gform::AddControls()
     }
 }
 
-void Gform::Redraw()
+void Gform::Redraw() const
 {
     Picture1->Redraw();
 }
@@ -195,6 +195,8 @@ void Gform::LayoutStrip(int left)
     if (propertiesOpen_) {
         const int frame = 2 * List1->frameWidth() + List1->verticalScrollBar()->sizeHint().width();
         area.setLeft(std::max(kGap, area.right() - List1->sizeHintForColumn(0) - frame));
+        const int lines = List1->count() * List1->sizeHintForRow(0);
+        area.setHeight(std::min(area.height(), lines + 2 * List1->frameWidth()));
     }
     List1->setGeometry(area);
 }
@@ -217,7 +219,7 @@ void Gform::ZoomOut()
     Redraw();
 }
 
-void Gform::Scroll(int dx, int dy)
+void Gform::Scroll(int dx, int dy) const
 {
     HScroll1->setValue(HScroll1->value() + dx);
     VScroll1->setValue(VScroll1->value() + dy);

@@ -35,7 +35,7 @@ public:
           UserDialogs& dialogs);
 
     // Draws the whole surface anew, in the next paint event.
-    void Redraw();
+    void Redraw() const;
 
     // To be called when a station or the database changed in the main window: redraws when the
     // configuration says so.
@@ -93,7 +93,7 @@ private:
 
     void ZoomIn();
     void ZoomOut();
-    void Scroll(int dx, int dy);
+    void Scroll(int dx, int dy) const;
     void Turn(QPoint eighths);
 
     void Press(SurfacePoint point);

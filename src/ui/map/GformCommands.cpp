@@ -95,7 +95,7 @@ void Gform::LeaveMap()
     // What the window system has waiting, a new size above all, comes before the view is drawn.
     const QPointer<Gform> window(this);
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    if (window) {
+    if (!window.isNull()) {
         Layout();
         Redraw();
     }
