@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QLocale>
+#include <QPointer>
 #include <QStandardPaths>
 
 #include "app/AppState.h"
@@ -12,6 +13,7 @@
 #include "ui/GermanTexts.h"
 #include "ui/UserDialogs.h"
 #include "ui/main/MainForm.h"
+#include "ui/map/Gform.h"
 
 using namespace Qt::StringLiterals;
 
@@ -44,12 +46,31 @@ int main(int argc, char** argv)
 
     app::AppState state;
     state.numberFormat = base::NumberFormat(QLocale::system().decimalPoint().toStdString());
+    ui::MapImage mapImage;
     ui::MainForm window(state, dialogs);
     if (!window.Start()) {
         return EXIT_FAILURE;
     }
     QObject::connect(&window, &ui::MainForm::Ended, &application, &QApplication::quit,
                      Qt::QueuedConnection);
+    // The map window exists only while it is open.
+    QPointer<ui::Gform> map;
+    QObject::connect(&window, &ui::MainForm::MapWanted, [&] {
+        if (!map) {
+            map = new ui::Gform(state, mapImage, window, dialogs);
+        }
+        map->setWindowState(map->windowState() & ~Qt::WindowMinimized);
+        map->show();
+        map->raise();
+        map->activateWindow();
+    });
+    QObject::connect(&window, &ui::MainForm::Changed, [&] {
+        if (map) {
+            map->AutoRedraw();
+        }
+    });
     window.show();
-    return QApplication::exec();
+    const int result = QApplication::exec();
+    delete map;
+    return result;
 }
