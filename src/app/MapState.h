@@ -1,7 +1,7 @@
 // What the map window shows; it survives the window.
 //
 // The zoom level, the label choice and the display switches are kept in the configuration; the
-// picture itself, which is no plain data, lies with the window's own files.
+// picture itself, which is no plain data, is owned by main() beside the shared state.
 
 #pragma once
 

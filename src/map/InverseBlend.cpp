@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "map/MapMath.h"
+#include "map/Moments.h"
 
 namespace map {
 
@@ -27,9 +27,7 @@ void InverseBlend::Prepare(std::span<const ReferencePoint> points)
             }
         });
     } else if (SurveyTriangles(places_).usable > 0) {
-        for (Vertex& vertex : vertices_) {
-            AddAllTriangles(vertex);
-        }
+        AddAllTriangles();
         rotations_ = vertices_.size();
     }
 }
@@ -68,35 +66,51 @@ void InverseBlend::AddTriangle(const Triangle& t, double cross)
 }
 
 // For a table too large to go through its triangles: their sum in closed form, with x and y from
-// the vertex. Vertical bases and collinear triples are left in.
-void InverseBlend::AddAllTriangles(Vertex& vertex) const
+// each vertex. Vertical bases and collinear triples are left in.
+void InverseBlend::AddAllTriangles()
 {
     using Extended = long double;
-    Extended xx = 0;
-    Extended xy = 0;
-    Extended yy = 0;
-    Extended xLongitude = 0;
-    Extended yLongitude = 0;
-    Extended xLatitude = 0;
-    Extended yLatitude = 0;
-    for (const Vertex& other : vertices_) {
-        const Extended x = static_cast<Extended>(other.place.x) - vertex.place.x;
-        const Extended y = static_cast<Extended>(other.place.y) - vertex.place.y;
-        const Extended longitude = static_cast<Extended>(other.longitude) - vertex.longitude;
-        const Extended latitude = static_cast<Extended>(other.latitude) - vertex.latitude;
-        xx += x * x;
-        xy += x * y;
-        yy += y * y;
-        xLongitude += x * longitude;
-        yLongitude += y * longitude;
-        xLatitude += x * latitude;
-        yLatitude += y * latitude;
+    const auto count = static_cast<Extended>(vertices_.size());
+    Extended meanX = 0;
+    Extended meanY = 0;
+    Extended meanLongitude = 0;
+    Extended meanLatitude = 0;
+    for (const Vertex& v : vertices_) {
+        meanX += v.place.x / count;
+        meanY += v.place.y / count;
+        meanLongitude += v.longitude / count;
+        meanLatitude += v.latitude / count;
     }
-    vertex.weight = static_cast<double>(xx * yy - xy * xy);
-    vertex.longitudeX = static_cast<double>(yy * xLongitude - xy * yLongitude);
-    vertex.longitudeY = static_cast<double>(xx * yLongitude - xy * xLongitude);
-    vertex.latitudeX = static_cast<double>(yy * xLatitude - xy * yLatitude);
-    vertex.latitudeY = static_cast<double>(xx * yLatitude - xy * xLatitude);
+    // Products about the means, once; moving them to a vertex adds one term to each.
+    struct Products {
+        Extended xx, xy, yy, xLongitude, yLongitude, xLatitude, yLatitude;
+    };
+    const auto add = [&](Products& sums, const Vertex& v, Extended factor) {
+        const Extended x = v.place.x - meanX;
+        const Extended y = v.place.y - meanY;
+        const Extended longitude = v.longitude - meanLongitude;
+        const Extended latitude = v.latitude - meanLatitude;
+        sums.xx += factor * x * x;
+        sums.xy += factor * x * y;
+        sums.yy += factor * y * y;
+        sums.xLongitude += factor * x * longitude;
+        sums.yLongitude += factor * y * longitude;
+        sums.xLatitude += factor * x * latitude;
+        sums.yLatitude += factor * y * latitude;
+    };
+    Products aboutMeans = {};
+    for (const Vertex& v : vertices_) {
+        add(aboutMeans, v, 1);
+    }
+    for (Vertex& v : vertices_) {
+        Products of = aboutMeans;
+        add(of, v, count);
+        v.weight = static_cast<double>(of.xx * of.yy - of.xy * of.xy);
+        v.longitudeX = static_cast<double>(of.yy * of.xLongitude - of.xy * of.yLongitude);
+        v.longitudeY = static_cast<double>(of.xx * of.yLongitude - of.xy * of.xLongitude);
+        v.latitudeX = static_cast<double>(of.yy * of.xLatitude - of.xy * of.yLatitude);
+        v.latitudeY = static_cast<double>(of.xx * of.yLatitude - of.xy * of.xLatitude);
+    }
 }
 
 geo::GeoPosition InverseBlend::At(Pixel pixel) const
@@ -112,7 +126,7 @@ geo::GeoPosition InverseBlend::At(Pixel pixel) const
         const Vertex& v = vertices_[i];
         const double dx = p.x - v.place.x;
         const double dy = p.y - v.place.y;
-        const double weight = InverseSquare(dx, dy);
+        const double weight = PointWeight(dx, dy);
         sum.weight += weight * v.weight;
         sum.longitude += weight * (v.weight * v.longitude + v.longitudeX * dx + v.longitudeY * dy);
         sum.latitude += weight * (v.weight * v.latitude + v.latitudeX * dx + v.latitudeY * dy);
@@ -161,7 +175,7 @@ void InverseBlend::Subtract(Sum& sum, PlanePoint p, std::size_t a, std::size_t b
     }
     // With a < b, the cyclic order of the three begins the base at b only around an apex between.
     const PlanePoint first = a < apex && apex < b ? vb.place : va.place;
-    const double weight = InverseSquare(first.x - p.x, first.y - p.y) * cross;
+    const double weight = PointWeight(first.x - p.x, first.y - p.y) * cross;
     const double ofA = Cross(p, vb.place, vc.place);
     const double ofB = Cross(va.place, p, vc.place);
     const double ofC = Cross(va.place, vb.place, p);

@@ -46,7 +46,7 @@ private:
     };
 
     void AddTriangle(const Triangle& triangle, double cross);
-    void AddAllTriangles(Vertex& vertex) const;
+    void AddAllTriangles();
     void SubtractParallel(Sum& sum, PlanePoint p, std::size_t apex) const;
     void Subtract(Sum& sum, PlanePoint p, std::size_t a, std::size_t b, std::size_t apex) const;
 

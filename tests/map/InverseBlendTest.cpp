@@ -1,5 +1,7 @@
 #include "map/InverseBlend.h"
 
+#include <cmath>
+#include <random>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -141,6 +143,42 @@ TEST(InverseBlend, IsZeroForAStraightLine)
         blend.Prepare(points);
         EXPECT_EQ(blend.At({400.0, 8.0}), geo::GeoPosition{}) << count;
     }
+}
+
+TEST(InverseBlend, SurvivesAnyFiniteTable)
+{
+    Random random(20);
+    const double extremes[] = {0.0, 1.0, -1e308, 1e308, 5e-324, 1e9, 1e-160, 32767.0, 1e-155};
+    std::uniform_int_distribution<int> pick(0, 8);
+    const double columns[] = {0.0, 1.0, 5000.0, 32767.0};
+    for (int table = 0; table < 2000; ++table) {
+        std::vector<ReferencePoint> points(static_cast<std::size_t>(3 + table % 9));
+        for (ReferencePoint& point : points) {
+            point = {extremes[pick(random)], extremes[pick(random)], extremes[pick(random)],
+                     extremes[pick(random)]};
+        }
+        InverseBlend blend;
+        blend.Prepare(points);
+        for (const double x : columns) {
+            for (const double y : columns) {
+                const geo::GeoPosition position = blend.At({.x = x, .y = y});
+                ASSERT_TRUE(std::isfinite(position.latitude)) << "table " << table;
+                ASSERT_TRUE(std::isfinite(position.longitude)) << "table " << table;
+            }
+        }
+    }
+}
+
+TEST(InverseBlend, PreparesTheLargestTableAtOnce)
+{
+    Random random(21);
+    const SampleMap map = ScannedSheet(random, 32767);
+    InverseBlend blend;
+    blend.Prepare(map.points);
+    const ReferencePoint& point = map.points[500];
+    const geo::GeoPosition position = blend.At({.x = point.X, .y = point.Y});
+    EXPECT_NEAR(position.latitude, point.Latitude, 1e-6);
+    EXPECT_NEAR(position.longitude, point.Longitude, 1e-6);
 }
 
 }  // namespace

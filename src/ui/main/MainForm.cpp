@@ -106,6 +106,10 @@ void MainForm::ConnectPanels()
         connect(panel->Command4, &QPushButton::clicked, this,
                 [this, station] { list_->Open(app::ListMode::Clear, station); });
         connect(panel->SA, &QPushButton::clicked, this, [this, station] { SavePanel(station); });
+        // Texts that are set otherwise come with a position, whose change tells of both.
+        for (EntryField* const field : panel->StationFields()) {
+            connect(field, &EntryField::textEdited, this, &MainForm::Changed);
+        }
     }
 }
 

@@ -7,6 +7,7 @@
 #include <QFileInfo>
 
 #include "base/FileBytes.h"
+#include "base/FileNames.h"
 #include "map/AdjustmentFile.h"
 #include "map/CalibrationFile.h"
 #include "ui/DatabaseActions.h"
@@ -170,8 +171,20 @@ std::optional<std::string> MapFiles::WritableCompanion(map::Companion companion)
 void MapFiles::SaveAdjustment()
 {
     if (const std::optional<std::string> name = WritableCompanion(map::Companion::Adjustment)) {
-        const base::ByteVector bytes = map::PackAdjustment(state_.map.references, image_.Size());
-        TellWriteError(window_, dialogs_, base::WriteFile(*name, bytes), *name);
+        // What cannot be read as an adjustment may be something else, or worth mending.
+        const base::FileContents old = base::ReadFile(*name);
+        const bool readable =
+            old.bytes.empty()
+            || map::UnpackAdjustment(old.bytes).state == map::AdjustmentState::Good;
+        std::error_code error;
+        if (old.status == base::FileStatus::Unreadable || !readable) {
+            error = base::SetAside(*name);
+        }
+        if (!error) {
+            error =
+                base::WriteFile(*name, map::PackAdjustment(state_.map.references, image_.Size()));
+        }
+        TellWriteError(window_, dialogs_, error, *name);
     }
 }
 

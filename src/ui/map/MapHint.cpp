@@ -6,6 +6,7 @@
 #include "geo/DistanceText.h"
 #include "map/ForwardBlend.h"
 #include "map/MapMath.h"
+#include "map/TriangleSurvey.h"
 
 namespace ui {
 
@@ -34,12 +35,16 @@ std::optional<double> MissedBy(const map::ReferenceTable& table, std::size_t ind
     std::vector<map::ReferencePoint> others(points.begin(), points.end());
     const map::ReferencePoint point = points[index];
     others.erase(others.begin() + static_cast<std::ptrdiff_t>(index));
+    std::vector<map::PlanePoint> places;
+    for (const map::ReferencePoint& other : others) {
+        places.push_back({.x = other.Longitude, .y = other.Latitude});
+    }
+    if (map::SurveyTriangles(places).usable == 0) {
+        return std::nullopt;
+    }
     map::ForwardBlend blend;
     blend.Prepare(others);
     const map::Pixel place = blend.At({.latitude = point.Latitude, .longitude = point.Longitude});
-    if (place == map::Pixel{}) {  // what points that determine nothing give
-        return std::nullopt;
-    }
     return map::Hypot(place.x - point.X, place.y - point.Y);
 }
 

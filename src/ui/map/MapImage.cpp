@@ -31,9 +31,13 @@ bool CanBeClipped(QImage::Format format)
 std::uint64_t BytesNeeded(const QImageReader& reader)
 {
     const QSize size = reader.size();
+    constexpr int kClipDepth = 32;
     const int depth = QImage::toPixelFormat(reader.imageFormat()).bitsPerPixel();
+    // A form that cannot be clipped is held twice while it is converted.
+    const int bits =
+        (depth > 0 ? depth : kClipDepth) + (CanBeClipped(reader.imageFormat()) ? 0 : kClipDepth);
     return static_cast<std::uint64_t>(size.width()) * static_cast<std::uint64_t>(size.height())
-               * static_cast<std::uint64_t>(depth > 0 ? depth : 32) / 8
+               * static_cast<std::uint64_t>(bits) / 8
            + kReserve;
 }
 
@@ -65,7 +69,7 @@ PictureStatus MapImage::Load(const QString& file, std::uint64_t freeMemory)
     if (!reader.canRead() || size.isEmpty()) {
         return PictureStatus::Unreadable;
     }
-    if (size.width() > map::kLongestEdge || size.height() > map::kLongestEdge) {
+    if (!map::CanBeGeoreferenced({.width = size.width(), .height = size.height()})) {
         return PictureStatus::TooLarge;
     }
     if (BytesNeeded(reader) > freeMemory) {
@@ -75,22 +79,28 @@ PictureStatus MapImage::Load(const QString& file, std::uint64_t freeMemory)
     if (picture.isNull() || picture.size() != size) {
         return PictureStatus::Unreadable;
     }
-    Set(std::move(picture));
-    return PictureStatus::Loaded;
+    return Set(std::move(picture)) ? PictureStatus::Loaded : PictureStatus::NoMemory;
 }
 
-void MapImage::Set(QImage picture)
+bool MapImage::Set(QImage picture)
 {
     if (picture.hasAlphaChannel()) {
         QImage opaque(picture.size(), QImage::Format_RGB32);
+        if (opaque.isNull()) {
+            return false;
+        }
         opaque.fill(Qt::white);
         QPainter(&opaque).drawImage(0, 0, picture);
         picture = std::move(opaque);
     } else if (!CanBeClipped(picture.format())) {
         picture.convertTo(QImage::Format_RGB32);
     }
+    if (picture.isNull()) {
+        return false;
+    }
     picture.setDevicePixelRatio(1.0);
     picture_ = std::move(picture);
+    return true;
 }
 
 QImage MapImage::Clip(const QRect& area) const

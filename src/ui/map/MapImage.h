@@ -31,8 +31,9 @@ public:
     // new one is whole, both are in memory.
     PictureStatus Load(const QString& file, std::uint64_t freeMemory = FreeMemory());
 
-    // Takes a picture over. One with transparent parts gets a white ground.
-    void Set(QImage picture);
+    // Takes a picture over. One with transparent parts gets a white ground. False, and the old
+    // picture stays, when there is no memory for that.
+    bool Set(QImage picture);
 
     bool Empty() const { return picture_.isNull(); }
     map::ImageSize Size() const { return {.width = picture_.width(), .height = picture_.height()}; }

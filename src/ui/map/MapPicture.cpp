@@ -54,6 +54,14 @@ void MapPicture::paintEvent(QPaintEvent* /*event*/)
     QPainter(this).drawImage(0, 0, frame_);
 }
 
+void MapPicture::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        Redraw();
+    }
+}
+
 void MapPicture::mousePressEvent(QMouseEvent* event)
 {
     leftPressed_ = event->button() == Qt::LeftButton;

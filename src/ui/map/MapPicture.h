@@ -32,6 +32,7 @@ signals:
     void Turned(QPoint eighths);           // the wheel, in eighths of a degree
 
 protected:
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;

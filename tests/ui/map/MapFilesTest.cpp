@@ -196,6 +196,13 @@ TEST_F(MapFilesTest, DamagedAdjustmentIsToldAndLeftAlone)
     EXPECT_TRUE(state.map.mapImage);
     EXPECT_FALSE(Table().ReferenceMode());
     EXPECT_EQ(Read("karte.JUS"), damaged);
+
+    Choose("MnuRefInf");
+    Choose("MnuStoJ");
+    EXPECT_EQ(Read("karte.JUS.ALT"), damaged) << "set aside before it is replaced";
+    EXPECT_NE(Read("karte.JUS"), damaged);
+    Choose("MnuStoJ");
+    EXPECT_FALSE(Exists("karte.JUS.ALT2")) << "what the program wrote is replaced";
 }
 
 TEST_F(MapFilesTest, AdjustmentOfAnotherPictureSizeIsLoadedAndTold)

@@ -59,6 +59,16 @@ TEST(MissedBy, NothingWhereTheOthersDetermineNoPosition)
     EXPECT_TRUE(MissedBy(table, 0).has_value());
 }
 
+TEST(MissedBy, APointAtTheCornerOfTheImageHasAFigure)
+{
+    map::ReferenceTable table;
+    table.Replace(
+        {{0, 0, 11.5, 48.25}, {0, 200, 11.5, 48.0}, {300, 0, 12.0, 48.25}, {300, 200, 12.0, 48.0}},
+        4);
+    ASSERT_TRUE(MissedBy(table, 0).has_value()) << "0/0 is a pixel";
+    EXPECT_NEAR(*MissedBy(table, 0), 0.0, 1e-6);
+}
+
 TEST(ReferenceHint, TellsNumberAndDeviation)
 {
     app::AppState state;

@@ -83,6 +83,17 @@ TEST(MapImage, PictureLargerThanTheFreeMemoryIsRefused)
     EXPECT_EQ(image.Size(), (map::ImageSize{1000, 1000}));
 }
 
+TEST(MapImage, PictureThatIsConvertedNeedsRoomForBothForms)
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(u"karte.png"_s);
+    ASSERT_TRUE(Chequered(1000, 1000).convertToFormat(QImage::Format_ARGB32).save(file));
+    MapImage image;
+    constexpr std::uint64_t kDecoding = std::uint64_t{64} << 20U;
+    EXPECT_EQ(image.Load(file, kDecoding + 7'999'999), PictureStatus::NoMemory);
+    EXPECT_EQ(image.Load(file, kDecoding + 8'000'000), PictureStatus::Loaded);
+}
+
 TEST(FreeMemory, IsKnown)
 {
     EXPECT_GT(FreeMemory(), std::uint64_t{1} << 20U);
