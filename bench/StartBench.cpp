@@ -1,5 +1,5 @@
 // From the start of the process to the first paint of its window: the program with an empty
-// database and with 25000 records, beside an empty main window. Run by scripts/start-bench.sh,
+// database and with 25000 records, beside an empty main window. Run by scripts/bench.sh,
 // which brings the screen and the plugin that ends each process.
 //
 // start_bench PROGRAM EMPTY_WINDOW

@@ -60,6 +60,15 @@ foreach(pair "main;map" "map;main")
     endforeach()
 endforeach()
 
+# What both windows share knows neither.
+file(GLOB sources "${SOURCE_DIR}/src/ui/*.h" "${SOURCE_DIR}/src/ui/*.cpp")
+foreach(source ${sources})
+    file(STRINGS "${source}" includes REGEX "^ *# *include *\"ui/(main|map)/")
+    foreach(line ${includes})
+        string(APPEND violations "\n  ${source}: ${line}")
+    endforeach()
+endforeach()
+
 if(violations)
     message(FATAL_ERROR "includes against the layering:${violations}")
 endif()

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Runs clang-tidy over every source file that the dev preset compiles, two at a time.
+# Runs clang-tidy over src/ and tests/, one process per core. Needs build/dev.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 git ls-files 'src/*.cpp' 'tests/*.cpp' \

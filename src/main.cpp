@@ -3,29 +3,19 @@
 #include <cstdlib>
 
 #include <QApplication>
-#include <QFile>
 #include <QLocale>
 #include <QPointer>
 #include <QStandardPaths>
 
 #include "app/AppState.h"
 #include "app/ProgramFolder.h"
+#include "ui/FileNameText.h"
 #include "ui/GermanTexts.h"
 #include "ui/UserDialogs.h"
 #include "ui/main/MainForm.h"
 #include "ui/map/Gform.h"
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-// File names of the core are the file system's own bytes.
-std::string Native(const QString& name)
-{
-    return QFile::encodeName(name).toStdString();
-}
-
-}  // namespace
 
 int main(int argc, char** argv)
 {
@@ -35,11 +25,11 @@ int main(int argc, char** argv)
     ui::QtDialogs dialogs;
 
     const std::string folder = app::ProgramFolder(
-        Native(QCoreApplication::applicationDirPath()),
-        Native(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)));
+        ui::Native(QCoreApplication::applicationDirPath()),
+        ui::Native(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)));
     if (app::EnterFolder(folder)) {
         dialogs.Inform(nullptr, u"Kompasso Setup-Fehler"_s,
-                       u"Der Ordner "_s + QFile::decodeName(QByteArray::fromStdString(folder))
+                       u"Der Ordner "_s + ui::Shown(folder)
                            + u" lässt sich nicht anlegen oder betreten."_s);
         return EXIT_FAILURE;
     }

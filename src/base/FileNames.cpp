@@ -3,10 +3,11 @@
 #include <array>
 #include <cerrno>
 #include <climits>
-#include <cstdio>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include "base/FileBytes.h"
 
 namespace base {
 
@@ -111,11 +112,13 @@ std::error_code SetAside(const std::string& name)
         }
         // A second name keeps the bytes without reading them: files are replaced, never
         // overwritten.
-        if (link(target.c_str(), copy.c_str()) != 0
-            && std::rename(target.c_str(), copy.c_str()) != 0) {
-            return LastError();
+        if (link(target.c_str(), copy.c_str()) == 0) {
+            return SyncFolder(FolderOf(target));
         }
-        return SyncFolder(FolderOf(target));
+        // A file system without second names: copied, so that the old name is never vacant.
+        const FileContents old = ReadFile(target);
+        return old.status == FileStatus::Readable ? WriteFile(copy, old.bytes)
+                                                  : std::make_error_code(std::errc::io_error);
     }
     return std::make_error_code(std::errc::file_exists);
 }

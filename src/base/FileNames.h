@@ -22,9 +22,8 @@ std::error_code SyncFolder(const std::string& folder);
 bool SameFile(const std::string& first, const std::string& second);
 
 // Keeps the bytes of a file, before it is replaced, beside it as NAME.ALT, or NAME.ALT2, NAME.ALT3
-// ... when that exists. Nothing happens to a missing or empty file, nor when one of these names
-// is already the very same file. The name itself may be gone afterwards where the file system has
-// no links.
+// ... when that exists. The file stays under its own name. Nothing happens to a missing or empty
+// file, nor when one of these names is already the very same file.
 std::error_code SetAside(const std::string& name);
 
 }  // namespace base

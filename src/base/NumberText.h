@@ -34,12 +34,11 @@ public:
 
     const std::string& DecimalSeparator() const { return decimalSeparator_; }
 
-    // `value` by `pattern`: the first run of "#" and "0", with
-    // the decimals behind it, is replaced by the number, what
-    // stands before and behind it is copied. Each "0" is a digit that is always shown, "#" one that
-    // may be left out; more digits before the separator than the pattern has are all shown. Rounds
-    // half away from zero on the exact value of the double and never prints a negative zero. Empty
-    // when `value` is not finite.
+    // `value` by `pattern`: the first run of "#" and "0", with the decimals behind it, is replaced
+    // by the number, what stands before and behind it is copied. Each "0" is a digit that is always
+    // shown, "#" one that may be left out; more digits before the separator than the pattern has
+    // are all shown. Rounds half away from zero on the exact value of the double and never prints a
+    // negative zero. Empty when `value` is not finite.
     //
     // -0.4 by "0.00 km - " is "-0.40 km - ", 1234.5 by "##0.0" is "1234.5".
     std::string operator()(double value, std::string_view pattern) const;

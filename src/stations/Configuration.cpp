@@ -9,7 +9,6 @@ namespace {
 
 constexpr std::int32_t kMagic = 150758;
 constexpr std::size_t kConfigurationSize = 2172;
-constexpr std::int16_t kDefaultDisplaySize = 14;
 constexpr std::int16_t kLargestDisplaySize = 33;
 
 // The bytes of a record; it has no padding.
@@ -104,7 +103,7 @@ ConfigurationContents UnpackConfiguration(base::ByteView bytes)
         return contents;
     }
     if (configuration.displaySize < 1 || configuration.displaySize > kLargestDisplaySize) {
-        configuration.displaySize = kDefaultDisplaySize;
+        configuration.displaySize = Configuration().displaySize;
     }
     contents.status = ConfigurationStatus::Read;
     contents.configuration = configuration;

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <QFont>
+#include <QLabel>
 #include <QString>
 
 namespace ui {
@@ -13,6 +15,16 @@ Object* Named(Object* object, const QString& name)
 {
     object->setObjectName(name);
     return object;
+}
+
+// Makes the text of a label bold, `size` times as large as before.
+inline QLabel* Bold(QLabel* label, qreal size = 1.0)
+{
+    QFont font = label->font();
+    font.setBold(true);
+    font.setPointSizeF(font.pointSizeF() * size);
+    label->setFont(font);
+    return label;
 }
 
 // Name of element `index` of a control array: "Text12_1".

@@ -1,7 +1,6 @@
 #include "ui/DatabaseActions.h"
 
-#include <QFile>
-
+#include "ui/FileNameText.h"
 #include "ui/UserDialogs.h"
 
 namespace ui {
@@ -14,9 +13,8 @@ void TellWriteError(QWidget* parent, UserDialogs& dialogs, std::error_code error
     if (!error) {
         return;
     }
-    const QString name = QFile::decodeName(QByteArray::fromStdString(fileName));
     dialogs.Inform(parent, u"Schreibfehler"_s,
-                   u"Das Schreiben auf die Datei "_s + name
+                   u"Das Schreiben auf die Datei "_s + Shown(fileName)
                        + u" schlug fehl!\nBitte Schreibschutz überprüfen und ggf. rücksetzen!"_s);
 }
 

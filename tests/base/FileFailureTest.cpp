@@ -1,5 +1,5 @@
 // What a write does when the system refuses one of its steps. The program is linked so that its
-// calls of write, fsync, close and rename come through the functions below.
+// calls of write, fsync, close, rename and link come through the functions below.
 
 #include <algorithm>
 #include <cerrno>
@@ -15,10 +15,11 @@
 
 #include "TemporaryFolder.h"
 #include "base/FileBytes.h"
+#include "base/FileNames.h"
 
 namespace {
 
-enum class Step { None, Write, Sync, Close, Rename };
+enum class Step { None, Write, Sync, Close, Rename, Link };
 
 // The call that fails: the `countdown`-th one of `step`.
 struct Fault {
@@ -46,6 +47,7 @@ ssize_t __real_write(int descriptor, const void* bytes, std::size_t size);
 int __real_fsync(int descriptor);
 int __real_close(int descriptor);
 int __real_rename(const char* from, const char* to);
+int __real_link(const char* from, const char* to);
 
 ssize_t __wrap_write(int descriptor, const void* bytes, std::size_t size)
 {
@@ -70,6 +72,11 @@ int __wrap_close(int descriptor)
 int __wrap_rename(const char* from, const char* to)
 {
     return Fails(Step::Rename) ? -1 : __real_rename(from, to);
+}
+
+int __wrap_link(const char* from, const char* to)
+{
+    return Fails(Step::Link) ? -1 : __real_link(from, to);
 }
 }
 // NOLINTEND(bugprone-reserved-identifier, readability-identifier-naming)
@@ -148,6 +155,14 @@ TEST_F(FileFailureTest, GoesOnAfterWritesDoneInPart)
     fault = {.step = Step::None, .countdown = 0, .error = 0, .largestWrite = 2};
     EXPECT_FALSE(WriteParts());
     EXPECT_EQ(GetFile("a"), "12345678");
+}
+
+TEST_F(FileFailureTest, SetsAsideByACopyWhereTheFileSystemHasNoLinks)
+{
+    fault = {.step = Step::Link, .countdown = 1, .error = EPERM};
+    EXPECT_FALSE(SetAside("a"));
+    EXPECT_EQ(GetFile("a"), "old") << "never vacant";
+    EXPECT_EQ(GetFile("a.ALT"), "old");
 }
 
 TEST_F(FileFailureTest, KeepsTheOldFileWhereThereIsNoRoom)

@@ -176,8 +176,10 @@ void CoordinateFields::GeoGk(int station)
     const auto index = static_cast<std::size_t>(station);
     const geo::GridPosition grid =
         geo::GeoGk(state_.shown.position[index], state_.configuration.datum);
-    Show(panel_[index]->Text12, geo::GridText(grid.easting, state_.numberFormat));
-    Show(panel_[index]->Text13, geo::GridText(grid.northing, state_.numberFormat));
+    const bool finite = std::isfinite(grid.easting) && std::isfinite(grid.northing);
+    const base::NumberFormat& format = state_.numberFormat;
+    Show(panel_[index]->Text12, finite ? geo::GridText(grid.easting, format) : std::string());
+    Show(panel_[index]->Text13, finite ? geo::GridText(grid.northing, format) : std::string());
 }
 
 void CoordinateFields::GeoUTM(int station)

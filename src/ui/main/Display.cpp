@@ -59,7 +59,8 @@ void Display::Tick()
         hide();
         Timer1->stop();  // nothing is left to do until the next message
     }
-    // Never back to a count from which the window would hide itself a second time.
+    // For whoever lets the timer run on: never back to a count from which the window would hide
+    // itself a second time.
     if (ticks_ > kTickLimit) {
         ticks_ = kLastTick;
     }

@@ -12,8 +12,8 @@ EntryField::EntryField(int columns, QWidget* parent) : QLineEdit(parent), column
 
 QSize EntryField::sizeHint() const
 {
-    constexpr int kTextMargins =
-        8;  // what QLineEdit keeps free inside its frame, both sides, and a cursor
+    // What QLineEdit keeps free inside its frame, both sides, and a cursor.
+    constexpr int kTextMargins = 8;
     const int width = fontMetrics().horizontalAdvance(QLatin1Char('0')) * columns_ + kTextMargins;
     QStyleOptionFrame option;
     initStyleOption(&option);

@@ -3,14 +3,13 @@
 #include <ctime>
 #include <vector>
 
-#include <QFile>
-
 #include "app/StartUp.h"
 #include "base/FileBytes.h"
 #include "base/TimeStamp.h"
 #include "stations/Listing.h"
 #include "stations/TextImport.h"
 #include "ui/DatabaseActions.h"
+#include "ui/FileNameText.h"
 #include "ui/UserDialogs.h"
 #include "ui/main/Display.h"
 #include "ui/main/StationListFrame.h"
@@ -27,11 +26,6 @@ namespace {
 const auto kDatabaseFilter = u"QHT-Dateien (*.qth)|*.QTH|alle Dateien (*.*)|*.*"_s;
 const auto kListingFilter = u"LST-Dateien (*.lst;*.txt)|*.lst;*.txt|alle Dateien (*.*)|*.*"_s;
 const auto kTextFilter = u"TXT-Dateien (*.txt)|*.txt|alle Dateien (*.*)|*.*"_s;
-
-std::string Native(const QString& file)
-{
-    return QFile::encodeName(file).toStdString();
-}
 
 QString ReasonText(stations::SkipReason reason)
 {
@@ -191,7 +185,7 @@ bool FileCommands::MayReplace(const std::string& name)
         return true;
     }
     dialogs_.Inform(&window_, {},
-                    u"Die Datei "_s + QFile::decodeName(QByteArray::fromStdString(name))
+                    u"Die Datei "_s + Shown(name)
                         + u" benutzt das Programm selbst, sie wird nicht überschrieben!"_s);
     return false;
 }

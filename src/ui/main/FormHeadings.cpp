@@ -27,10 +27,7 @@ FormHeadings::FormHeadings(QGridLayout& grid, int row) : QObject(grid.parentWidg
         {"Label13", u"UTM"_s, StationPanel::Utm},
     };
     for (const auto& h : headings) {
-        auto* const label = Named(new QLabel(h.text, window), QLatin1StringView(h.name));
-        QFont bold = label->font();
-        bold.setBold(true);
-        label->setFont(bold);
+        auto* const label = Bold(Named(new QLabel(h.text, window), QLatin1StringView(h.name)));
         label->setContentsMargins(h.column == StationPanel::Info ? StationPanel::kPadding : 0, 0, 0,
                                   0);
         grid.addWidget(label, row, h.column);

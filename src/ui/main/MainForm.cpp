@@ -212,7 +212,8 @@ void MainForm::TakeLine(int row)
     SetStation(station, stations::TextsOf(record), record.Position());
     if (mode == app::ListMode::Clear) {
         state_.database.Delete(index);
-        // Opened for loading: a deletion does not stay in delete mode.
+        // Opened for loading: a deletion does not stay in delete mode. Filled before the file is
+        // written, so that behind a message about that the list still is the database.
         list_->Open(app::ListMode::Get, station);
         UpdateQTHFile();
         emit Changed();
@@ -250,6 +251,7 @@ void MainForm::TakeConfiguration()
 void MainForm::ShowMap()
 {
     S1S2_Update();
+    list_->List1Check();  // the map asks for the mark of every record
     emit MapWanted();
 }
 

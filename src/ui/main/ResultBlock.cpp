@@ -10,34 +10,21 @@ namespace ui {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-QLabel* NewBold(QLabel* label, qreal size)
-{
-    QFont font = label->font();
-    font.setBold(true);
-    font.setPointSizeF(font.pointSizeF() * size);
-    label->setFont(font);
-    return label;
-}
-
-}  // namespace
-
 ResultBlock::ResultBlock(QWidget* parent) : QFrame(parent)
 {
     setFrameShape(StyledPanel);
     auto* const grid = new QGridLayout(this);
-    grid->addWidget(NewBold(Named(new QLabel(u"ERGEBNIS"_s, this), u"Label11"_s), 1.0), 0, 0, 1, 2);
+    grid->addWidget(Bold(Named(new QLabel(u"ERGEBNIS"_s, this), u"Label11"_s)), 0, 0, 1, 2);
 
     constexpr qreal kResultSize = 1.4;  // read from a step away
-    Label3 = NewBold(Named(new QLabel(this), u"Label3"_s), kResultSize);
+    Label3 = Bold(Named(new QLabel(this), u"Label3"_s), kResultSize);
     grid->addWidget(Label3, 1, 0, 1, 2);
 
     const std::array captions = {u"Richtung Station 1:"_s, u"Richtung Station 2:"_s};
     for (int i = 0; i < 2; ++i) {
         const auto element = static_cast<std::size_t>(i);
         Label10[element] = Named(new QLabel(captions[element], this), ElementName("Label10", i));
-        Label4[element] = NewBold(Named(new QLabel(this), ElementName("Label4", i)), kResultSize);
+        Label4[element] = Bold(Named(new QLabel(this), ElementName("Label4", i)), kResultSize);
         // The blanks of "OST   + 0.00 Grad" are part of the text and must not be folded.
         Label4[element]->setTextFormat(Qt::PlainText);
         grid->addWidget(Label10[element], 2 + i, 0);

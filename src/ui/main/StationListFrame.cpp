@@ -118,6 +118,9 @@ void StationListFrame::Close()
 
 void StationListFrame::ResetSortCombo() const
 {
+    if (SortCombo->hasFocus()) {
+        List1->setFocus();  // not the button beside it, which a key would then press
+    }
     SortCombo->setEnabled(false);
     SortCombo->setCurrentIndex(0);
 }

@@ -39,9 +39,7 @@ StationPanel::StationPanel(int stationIndex, QGridLayout& grid, int row)
     const bool first = station == 0;
     auto* const title = Named(new QLabel(first ? u"Station1"_s : u"Station2"_s, window_),
                               first ? u"Label1"_s : u"Label2"_s);
-    QFont bold = title->font();
-    bold.setBold(true);
-    title->setFont(bold);
+    Bold(title);
     title->setContentsMargins(kPadding, kPadding, 0, 0);
     grid.addWidget(title, row, 0, Qt::AlignBottom);
 

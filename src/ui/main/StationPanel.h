@@ -93,8 +93,8 @@ private:
 
     QWidget* window_;
     int captions_ = 0;  // made so far; numbers the elements of Label12
-    std::array<QLabel*, 6> unit_ =
-        {};  // behind longitude degrees, minutes, third; latitude likewise
+    // Behind longitude degrees, minutes, third; latitude likewise.
+    std::array<QLabel*, 6> unit_ = {};
 };
 
 }  // namespace ui

@@ -2,11 +2,11 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QFile>
 #include <QListWidget>
 #include <QPointer>
 #include <QScrollBar>
 
+#include "ui/FileNameText.h"
 #include "ui/UserDialogs.h"
 #include "ui/map/Gform.h"
 #include "ui/map/MapGrid.h"
@@ -164,7 +164,7 @@ void Gform::ContinueRoute()
 
 void Gform::ShowProperties()
 {
-    const QString imageName = QFile::decodeName(QByteArray::fromStdString(state_.map.imageName));
+    const QString imageName = Shown(state_.map.imageName);
     List1->clear();
     for (const std::string& line :
          PropertyLines(state_.map, image_.Size(), imageName.toStdString(), state_.numberFormat)) {

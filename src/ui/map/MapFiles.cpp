@@ -3,7 +3,6 @@
 #include <vector>
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 #include "base/FileBytes.h"
@@ -11,6 +10,7 @@
 #include "map/AdjustmentFile.h"
 #include "map/CalibrationFile.h"
 #include "ui/DatabaseActions.h"
+#include "ui/FileNameText.h"
 #include "ui/UserDialogs.h"
 
 namespace ui {
@@ -18,17 +18,6 @@ namespace ui {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-// The core names files by the file system's own bytes.
-std::string Native(const QString& name)
-{
-    return QFile::encodeName(name).toStdString();
-}
-
-QString Shown(const std::string& name)
-{
-    return QFile::decodeName(QByteArray::fromStdString(name));
-}
 
 std::vector<std::string> FilesBeside(const std::string& name)
 {
