@@ -4,18 +4,25 @@
 #include <array>
 #include <cmath>
 #include <cstring>
+#include <functional>
 #include <memory>
 #include <random>
 
+#include <QAction>
 #include <QApplication>
+#include <QDir>
 #include <QImageReader>
 #include <QPainter>
+#include <QPushButton>
+#include <QScrollBar>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include "SideBySide.h"
 #include "app/AppState.h"
 #include "map/Georeference.h"
 #include "ui/ScriptedDialogs.h"
+#include "ui/main/MainForm.h"
 #include "ui/map/FakeMainWindow.h"
 #include "ui/map/Gform.h"
 #include "ui/map/MapPainter.h"
@@ -138,7 +145,7 @@ public:
         for (std::size_t i = markers.size(); i-- > 0;) {
             const std::string_view label = painter.LabelOf(markers[i]);
             const ui::PixelBox plate = marker.Plate(markers[i].at, marker.TextWidth(label));
-            if (!mask.Covered(plate)) {
+            if (!mask.FreePart(plate).Empty()) {
                 mask.Cover(plate);
                 visible_.push_back({markers[i].at, plate, label});
             }
@@ -217,6 +224,114 @@ private:
     std::array<QImage, 128> cells_;
     std::array<int, 128> advances_{};
 };
+
+// The slowest of some repetitions of an event, from the event to the repainted surface.
+void Slowest(const char* name, ui::Gform& form, const std::function<void()>& event)
+{
+    double slowest = 0.0;
+    for (int i = 0; i < 12; ++i) {
+        const double seconds = bench::Seconds([&] {
+            event();
+            form.Picture1->repaint();
+        });
+        if (i > 1) {
+            slowest = std::max(slowest, seconds);
+        }
+    }
+    std::printf("%-58s %9.1f ms  (at most 50)\n", name, slowest * 1e3);
+    std::fflush(stdout);
+}
+
+void Trigger(const ui::Gform& form, const char* item)
+{
+    form.findChild<QAction*>(QLatin1StringView(item))->trigger();
+}
+
+void MeasureEvents()
+{
+    QTemporaryDir folder;
+    QDir::setCurrent(folder.path());
+    World world;
+    ui::ScriptedDialogs dialogs;
+    ui::MainForm window(world.state, dialogs);
+    const auto references = world.state.map.references;
+    window.Start();
+    world.Fill();
+    window.List1Load();
+    world.state.map.references = references;
+    world.state.map.edges = {.left = 11.0, .right = 12.0, .upper = 49.0, .lower = 48.0};
+    auto* const form = new ui::Gform(world.state, world.image, window, dialogs);
+    form->show();
+    form->resize(form->size() - form->centralWidget()->size() + QSize(1300, 840));
+    QApplication::processEvents();
+    form->Picture1->repaint();
+    const auto bar = [form](int step) {
+        form->HScroll1->setValue(500 + step % 40);
+        form->VScroll1->setValue(450 + step % 30);
+    };
+    bar(0);
+    const auto click = [form](int step) {
+        QTest::mouseClick(form->Picture1, Qt::LeftButton, {}, QPoint(300 + step, 200));
+    };
+    int step = 0;
+    Slowest("scroll step", *form, [&] { bar(++step); });
+    for (const char* const item : {"MnuSel", "MnuAlle", "MnuS1Anz", "MnuS2Anz", "MnuRef",
+                                   "MnuOptAusg", "MnuRast", "MnuEig"}) {
+        Slowest(item, *form, [&] { Trigger(*form, item); });
+    }
+    Slowest("MnuRZ2, MnuRZ1: labels change", *form,
+            [&] { Trigger(*form, ++step % 2 == 0 ? "MnuRZ1" : "MnuRZ2"); });
+    const struct {
+        const char* item;
+        const char* name;
+    } clicks[] = {{"MnuSet1", "click: set Station 1"},
+                  {"MnuSet2", "click: set Station 2"},
+                  {"MnuRouS", "click: route"},
+                  {"MnuAddLand", "click: landmark, its save included"},
+                  {"MnuS2Ref", "click: add a reference: table changes"},
+                  {"MnuRefClr", "click: delete a reference: table changes"}};
+    for (const auto& mode : clicks) {
+        world.state.database.Truncate(kStations - 100);
+        window.List1Load();
+        Trigger(*form, mode.item);
+        Slowest(mode.name, *form, [&] {
+            world.state.shown.position[1].latitude += 1e-3;
+            click(++step);
+        });
+    }
+    Trigger(*form, "MnuPicOff");
+    world.state.configuration.displaySize = 19;
+    Slowest("zoom step", *form, [&] {
+        QTest::mouseClick(++step % 2 == 0 ? form->Command1 : form->Command2, Qt::LeftButton);
+    });
+    delete form;
+}
+
+void MeasureLoading()
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(u"karte.jpg"_s);
+    {
+        QImage picture(10'000, 10'000, QImage::Format_RGB32);
+        for (int y = 0; y < picture.height(); ++y) {
+            auto* const row = reinterpret_cast<QRgb*>(picture.scanLine(y));
+            for (int x = 0; x < picture.width(); ++x) {
+                row[x] = qRgb((x * y) >> 9, x >> 3, y >> 3);
+            }
+        }
+        picture.save(file, "JPEG", 85);
+    }
+    bench::Run({"loading a JPEG of 10000 x 10000 / QImageReader alone", 1.2,
+                [&] {
+                    ui::MapImage image;
+                    return bench::Seconds([&] { image.Load(file); });
+                },
+                [&] {
+                    QImageReader::setAllocationLimit(0);
+                    return bench::Seconds([&] { QImageReader(file).read(); });
+                },
+                5});
+}
 
 }  // namespace
 
@@ -299,5 +414,7 @@ int main(int argc, char** argv)
              world.view.clipOrigin = {.x = 600, .y = 500};
              return clip + bench::Seconds(redraw);
          }});
+    MeasureEvents();
+    MeasureLoading();
     return 0;
 }

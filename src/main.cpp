@@ -46,7 +46,7 @@ int main(int argc, char** argv)
     // The map window exists only while it is open.
     QPointer<ui::Gform> map;
     QObject::connect(&window, &ui::MainForm::MapWanted, [&] {
-        if (!map) {
+        if (map.isNull()) {
             map = new ui::Gform(state, mapImage, window, dialogs);
         }
         map->setWindowState(map->windowState() & ~Qt::WindowMinimized);
@@ -55,7 +55,7 @@ int main(int argc, char** argv)
         map->activateWindow();
     });
     QObject::connect(&window, &ui::MainForm::Changed, [&] {
-        if (map) {
+        if (!map.isNull()) {
             map->AutoRedraw();
         }
     });

@@ -1,6 +1,7 @@
 #include "ui/map/CoverMask.h"
 
 #include <algorithm>
+#include <bit>
 
 namespace ui {
 
@@ -45,24 +46,43 @@ CoverMask::Span CoverMask::Clip(const PixelBox& box) const
     return span;
 }
 
-bool CoverMask::Covered(const PixelBox& box) const
+PixelBox CoverMask::FreePart(const PixelBox& box) const
 {
     const Span span = Clip(box);
     if (span.empty) {
-        return true;
+        return {};
     }
+    std::size_t first = SIZE_MAX;  // bits from the left of the picture
+    std::size_t end = 0;
+    std::size_t firstRow = 0;
+    std::size_t endRow = 0;
     for (std::size_t row = span.firstRow; row < span.endRow; ++row) {
         const Word* const words = taken_.data() + row * wordsPerRow_;
-        Word free = span.firstMask & ~words[span.firstWord];
-        free |= span.lastMask & ~words[span.lastWord];
-        for (std::size_t word = span.firstWord + 1; word < span.lastWord; ++word) {
-            free |= ~words[word];
+        bool rowHasFree = false;
+        for (std::size_t word = span.firstWord; word <= span.lastWord; ++word) {
+            Word free = ~words[word];
+            free &= word == span.firstWord ? span.firstMask : kAll;
+            free &= word == span.lastWord ? span.lastMask : kAll;
+            if (free != 0) {
+                rowHasFree = true;
+                first = std::min(first,
+                                 word * kBits + static_cast<std::size_t>(std::countr_zero(free)));
+                end = std::max(end, (word + 1) * kBits
+                                        - static_cast<std::size_t>(std::countl_zero(free)));
+            }
         }
-        if (free != 0) {
-            return false;
+        if (rowHasFree) {
+            firstRow = endRow == 0 ? row : firstRow;
+            endRow = row + 1;
         }
     }
-    return true;
+    if (endRow == 0) {
+        return {};
+    }
+    return {.left = static_cast<int>(first),
+            .top = static_cast<int>(firstRow),
+            .right = static_cast<int>(end),
+            .bottom = static_cast<int>(endRow)};
 }
 
 void CoverMask::Cover(const PixelBox& box)

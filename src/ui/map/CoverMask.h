@@ -20,6 +20,8 @@ struct PixelBox {
     int right = 0;
     int bottom = 0;
 
+    bool Empty() const { return left >= right || top >= bottom; }
+
     bool operator==(const PixelBox&) const = default;
 };
 
@@ -28,8 +30,9 @@ public:
     // All pixels free.
     void Reset(Extent picture);
 
-    // True when every pixel of the box that lies in the picture is taken; also when none does.
-    bool Covered(const PixelBox& box) const;
+    // The smallest box around the pixels of `box` that are in the picture and free; an empty one
+    // when there are none.
+    PixelBox FreePart(const PixelBox& box) const;
 
     // Takes the pixels of the box.
     void Cover(const PixelBox& box);

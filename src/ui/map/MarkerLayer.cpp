@@ -58,10 +58,11 @@ void MarkerLayer::FindVisible(Extent picture, std::span<const Marker> markers)
             label.staysOnPlate
                 ? plate
                 : painter_->Reach(marker.at, labels_.Text(marker.label), label.textWidth);
-        if (!mask_.Covered(reach)) {
+        const PixelBox part = mask_.FreePart(reach);
+        if (!part.Empty()) {
             mask_.Cover(plate);
             label.inUse = true;
-            visible_.push_back(static_cast<std::uint32_t>(i));
+            visible_.push_back({.index = static_cast<std::uint32_t>(i), .part = part});
         }
     }
 }
@@ -78,8 +79,9 @@ void MarkerLayer::PaintMissing(std::span<const Marker> markers)
     }
     QImage sheet;
     QPainter painter;
-    for (const std::uint32_t i : visible_) {
-        Picture& picture = pictures_[markers[i].label];
+    for (const auto& [index, part] : visible_) {
+        const LabelId label = markers[index].label;
+        Picture& picture = pictures_[label];
         if (!picture.staysOnPlate || !picture.pixels.empty()) {
             continue;
         }
@@ -93,7 +95,7 @@ void MarkerLayer::PaintMissing(std::span<const Marker> markers)
             painter.begin(&sheet);
             painter.translate(-plate.left, -plate.top);
         }
-        painter_->DrawMarker(painter, {}, labels_.Text(markers[i].label));
+        painter_->DrawMarker(painter, {}, labels_.Text(label));
         picture.pixels.resize(static_cast<std::size_t>(size.width)
                               * static_cast<std::size_t>(size.height));
         QRgb* to = picture.pixels.data();
@@ -105,22 +107,16 @@ void MarkerLayer::PaintMissing(std::span<const Marker> markers)
     }
 }
 
-void MarkerLayer::Copy(const Target& target, const Marker& marker) const
+void MarkerLayer::Copy(const Target& target, const Marker& marker, const PixelBox& part) const
 {
     const Picture& label = pictures_[marker.label];
     const PixelBox plate = painter_->Plate(marker.at, label.textWidth);
-    const int left = std::max(plate.left, 0);
-    const int right = std::min(plate.right, target.size.width);
-    const int top = std::max(plate.top, 0);
-    const int bottom = std::min(plate.bottom, target.size.height);
-    if (left >= right) {
-        return;
-    }
     const auto width = static_cast<std::ptrdiff_t>(plate.right - plate.left);
-    const auto bytes = static_cast<std::size_t>(right - left) * sizeof(QRgb);
-    const QRgb* from = label.pixels.data() + (top - plate.top) * width + (left - plate.left);
-    QRgb* to = target.pixels + top * target.pixelsPerRow + left;
-    for (int row = top; row < bottom; ++row) {
+    const auto bytes = static_cast<std::size_t>(part.right - part.left) * sizeof(QRgb);
+    const QRgb* from =
+        label.pixels.data() + (part.top - plate.top) * width + (part.left - plate.left);
+    QRgb* to = target.pixels + part.top * target.pixelsPerRow + part.left;
+    for (int row = part.top; row < part.bottom; ++row) {
         std::memcpy(to, from, bytes);
         from += width;
         to += target.pixelsPerRow;
@@ -136,15 +132,14 @@ void MarkerLayer::Paint(QImage& picture, std::span<const Marker> markers,
     const Target target = {
         .pixels = reinterpret_cast<QRgb*>(picture.bits()),
         .pixelsPerRow = picture.bytesPerLine() / static_cast<qsizetype>(sizeof(QRgb)),
-        .size = {.width = picture.width(), .height = picture.height()},
     };
     QPainter direct;
     for (std::size_t i = visible_.size(); i-- > 0;) {
-        const Marker& marker = markers[visible_[i]];
+        const Marker& marker = markers[visible_[i].index];
         Picture& label = pictures_[marker.label];
         label.inUse = false;
         if (label.staysOnPlate) {
-            Copy(target, marker);
+            Copy(target, marker, visible_[i].part);
         } else {
             direct.begin(&picture);
             painter_->DrawMarker(direct, marker.at, labels_.Text(marker.label));

@@ -54,21 +54,27 @@ private:
     struct Target {
         QRgb* pixels;
         std::ptrdiff_t pixelsPerRow;
-        Extent size;
     };
 
     void Prepare(const MarkerPainter& painter);
     Picture& Measured(LabelId label);
     void FindVisible(Extent picture, std::span<const Marker> markers);
     void PaintMissing(std::span<const Marker> markers);
-    void Copy(const Target& target, const Marker& marker) const;
+    // Copies the part of a marker's picture that no later marker covers.
+    void Copy(const Target& target, const Marker& marker, const PixelBox& part) const;
 
     LabelPool labels_;
     std::vector<Picture> pictures_;
     std::size_t keptPixels_ = 0;
     std::optional<MarkerPainter> painter_;
     CoverMask mask_;
-    std::vector<std::uint32_t> visible_;  // indexes of markers, the topmost first
+
+    // A marker that is not wholly covered.
+    struct Visible {
+        std::uint32_t index;
+        PixelBox part;  // around all of its pixels that are to be seen
+    };
+    std::vector<Visible> visible_;  // the topmost first
 };
 
 }  // namespace ui

@@ -23,13 +23,11 @@ std::optional<int> Whole(double value)
     }
     const auto towardsZero = static_cast<int>(value);
     const double rest = value - towardsZero;
-    const bool odd = towardsZero % 2 != 0;
-    int whole = towardsZero;
-    if (rest > 0.5 || (rest == 0.5 && odd)) {
-        ++whole;
-    } else if (rest < -0.5 || (rest == -0.5 && odd)) {
-        --whole;
-    }
+    // Sums of truths, not branches: which way a station is rounded cannot be foreseen.
+    const int odd = towardsZero & 1;
+    const int up = static_cast<int>(rest > 0.5) | (static_cast<int>(rest == 0.5) & odd);
+    const int down = static_cast<int>(rest < -0.5) | (static_cast<int>(rest == -0.5) & odd);
+    const int whole = towardsZero + up - down;
     return std::abs(whole) < kPlotLimit ? std::optional(whole) : std::nullopt;
 }
 

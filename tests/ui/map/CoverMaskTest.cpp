@@ -1,5 +1,6 @@
 #include "ui/map/CoverMask.h"
 
+#include <algorithm>
 #include <random>
 #include <vector>
 
@@ -13,28 +14,28 @@ TEST(CoverMask, BoxIsCoveredByThePiecesLaidOverIt)
     CoverMask mask;
     mask.Reset({200, 50});
     const PixelBox box{10, 10, 150, 20};
-    EXPECT_FALSE(mask.Covered(box));
+    EXPECT_EQ(mask.FreePart(box), box);
     mask.Cover({0, 0, 100, 30});
-    EXPECT_FALSE(mask.Covered(box));
+    EXPECT_EQ(mask.FreePart(box), (PixelBox{100, 10, 150, 20}));
     mask.Cover({100, 10, 149, 20});
-    EXPECT_FALSE(mask.Covered(box));  // one column is left
+    EXPECT_EQ(mask.FreePart(box), (PixelBox{149, 10, 150, 20}));  // one column is left
     mask.Cover({149, 10, 150, 19});
-    EXPECT_FALSE(mask.Covered(box));  // one pixel is left
+    EXPECT_EQ(mask.FreePart(box), (PixelBox{149, 19, 150, 20}));  // one pixel is left
     mask.Cover({149, 19, 150, 20});
-    EXPECT_TRUE(mask.Covered(box));
+    EXPECT_TRUE(mask.FreePart(box).Empty());
 }
 
 TEST(CoverMask, WhatLiesOutsideThePictureCountsAsCovered)
 {
     CoverMask mask;
     mask.Reset({100, 50});
-    EXPECT_TRUE(mask.Covered({-20, 0, 0, 10}));
-    EXPECT_TRUE(mask.Covered({100, 0, 120, 10}));
-    EXPECT_TRUE(mask.Covered({0, -10, 10, 0}));
-    EXPECT_TRUE(mask.Covered({0, 50, 10, 60}));
-    EXPECT_FALSE(mask.Covered({-20, -20, 1, 1}));  // its last pixel is the corner
+    EXPECT_TRUE(mask.FreePart({-20, 0, 0, 10}).Empty());
+    EXPECT_TRUE(mask.FreePart({100, 0, 120, 10}).Empty());
+    EXPECT_TRUE(mask.FreePart({0, -10, 10, 0}).Empty());
+    EXPECT_TRUE(mask.FreePart({0, 50, 10, 60}).Empty());
+    EXPECT_EQ(mask.FreePart({-20, -20, 1, 1}), (PixelBox{0, 0, 1, 1}));  // the corner
     mask.Cover({-64990, -5, 1, 1});
-    EXPECT_TRUE(mask.Covered({-20, -20, 1, 1}));
+    EXPECT_TRUE(mask.FreePart({-20, -20, 1, 1}).Empty());
 }
 
 TEST(CoverMask, EmptyPictureHoldsNothing)
@@ -42,7 +43,7 @@ TEST(CoverMask, EmptyPictureHoldsNothing)
     CoverMask mask;
     mask.Reset({0, 0});
     mask.Cover({0, 0, 10, 10});
-    EXPECT_TRUE(mask.Covered({0, 0, 10, 10}));
+    EXPECT_TRUE(mask.FreePart({0, 0, 10, 10}).Empty());
 }
 
 TEST(CoverMask, AgreesWithCountingPixels)
@@ -65,18 +66,21 @@ TEST(CoverMask, AgreesWithCountingPixels)
         const int top = y(random);
         const PixelBox box{left, top, left + width(random) % (i % 2 == 0 ? 140 : 9),
                            top + 1 + i % 5};
-        bool covered = true;
+        PixelBox free{kPicture.width, kPicture.height, 0, 0};
         for (int row = std::max(box.top, 0); row < std::min(box.bottom, kPicture.height); ++row) {
             for (int c = std::max(box.left, 0); c < std::min(box.right, kPicture.width); ++c) {
                 const auto pixel = static_cast<std::size_t>(row * kPicture.width + c);
-                covered = covered && taken[pixel];
+                if (!taken[pixel]) {
+                    free = {std::min(free.left, c), std::min(free.top, row),
+                            std::max(free.right, c + 1), std::max(free.bottom, row + 1)};
+                }
                 taken[pixel] = true;
             }
         }
-        ASSERT_EQ(mask.Covered(box), covered) << "box " << i;
+        ASSERT_EQ(mask.FreePart(box), free.Empty() ? PixelBox{} : free) << "box " << i;
         mask.Cover(box);
-        ASSERT_TRUE(mask.Covered(box));
-        coveredBoxes += covered ? 1 : 0;
+        ASSERT_TRUE(mask.FreePart(box).Empty());
+        coveredBoxes += free.Empty() ? 1 : 0;
     }
     EXPECT_GT(coveredBoxes, 300);
     EXPECT_LT(coveredBoxes, 2700);
