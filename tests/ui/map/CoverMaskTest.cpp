@@ -69,7 +69,9 @@ TEST(CoverMask, AgreesWithCountingPixels)
         PixelBox free{kPicture.width, kPicture.height, 0, 0};
         for (int row = std::max(box.top, 0); row < std::min(box.bottom, kPicture.height); ++row) {
             for (int c = std::max(box.left, 0); c < std::min(box.right, kPicture.width); ++c) {
-                const auto pixel = static_cast<std::size_t>(row * kPicture.width + c);
+                const auto pixel =
+                    static_cast<std::size_t>(row) * static_cast<std::size_t>(kPicture.width)
+                    + static_cast<std::size_t>(c);
                 if (!taken[pixel]) {
                     free = {std::min(free.left, c), std::min(free.top, row),
                             std::max(free.right, c + 1), std::max(free.bottom, row + 1)};

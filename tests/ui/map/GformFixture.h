@@ -85,7 +85,7 @@ protected:
     {
         QImage picture(width, height, QImage::Format_RGB32);
         picture.fill(colour);
-        const QString file = folder.filePath(QLatin1StringView(name));
+        QString file = folder.filePath(QLatin1StringView(name));
         EXPECT_TRUE(picture.save(file));
         return file;
     }

@@ -223,6 +223,34 @@ TEST_F(GformMenuTest, ReferenceModeEnablesItsFourItems)
     EXPECT_FALSE(state.map.references.ReferenceMode());
 }
 
+TEST_F(GformMenuTest, GridIsSwitchedOnAndOff)
+{
+    Open();
+    LoadMap(MapFile(400, 300));
+    Choose("MnuRefInf");
+    const QImage without = Picture();
+    Choose("MnuRast");
+    EXPECT_TRUE(Checked("MnuRast"));
+    EXPECT_NE(Picture(), without);
+    Choose("MnuRast");
+    EXPECT_FALSE(Checked("MnuRast"));
+    EXPECT_EQ(Picture(), without);
+}
+
+TEST_F(GformMenuTest, GridThatCannotBeMadeIsToldAndStaysUnchecked)
+{
+    Open();
+    LoadMap(MapFile(400, 300));
+    state.map.bounds = {20'000.0, 0.0, 0.0, 30.0};  // more than a thousand parallels
+    Choose("MnuRefInf");
+    const QImage without = Picture();
+    Choose("MnuRast");
+    EXPECT_FALSE(Checked("MnuRast"));
+    ASSERT_EQ(dialogs.said.size(), 1U);
+    EXPECT_TRUE(dialogs.said[0].text.contains(u"Raster"_s));
+    EXPECT_EQ(Picture(), without);
+}
+
 TEST_F(GformMenuTest, SurfaceOffersTheClickModes)
 {
     Open();

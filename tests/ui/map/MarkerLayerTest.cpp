@@ -51,6 +51,7 @@ QImage PaintedAtOnce(MarkerLayer& layer, const std::vector<LabelledPoint>& point
 {
     QImage picture = NewPicture(surface, scale);
     std::vector<Marker> markers;
+    markers.reserve(points.size());
     for (const LabelledPoint& point : points) {
         markers.push_back({.at = point.at, .label = layer.Number(point.label)});
     }
@@ -65,6 +66,7 @@ public:
         std::uniform_int_distribution<int> x(-60, surface.width + 20);
         std::uniform_int_distribution<int> y(-20, surface.height + 20);
         std::vector<LabelledPoint> points;
+        points.reserve(static_cast<std::size_t>(count));
         for (int i = 0; i < count; ++i) {
             points.push_back({.at = {x(random_), y(random_)}, .label = NextLabel()});
         }
