@@ -13,8 +13,6 @@ static_assert(FewTriangles::kMost == kLanes, "one triangle to a lane");
 // Products of equal sides may differ by less than this part but for rounding.
 constexpr double kRounding = 1e-14;
 
-using LaneMask = std::int64_t __attribute__((vector_size(32)));
-
 [[gnu::always_inline]] inline Lanes Magnitude(const Lanes& v)
 {
     return v < 0.0 ? -v : v;
@@ -79,30 +77,30 @@ double FewTriangles::LeftOut(std::size_t triangle, PlanePoint p) const
 // All triangles at once, one to a lane.
 KOMPASSO_WIDE Pixel FewTriangles::At(PlanePoint p) const
 {
-    const Lanes px = Broadcast(p.x);
-    const Lanes py = Broadcast(p.y);
-    Lanes weight = Load(areaSquared_.data());
+    const Lanes px = Spread(p.x);
+    const Lanes py = Spread(p.y);
+    Lanes weight = Load(areaSquared_);
     LaneMask parallel = {};
     for (const Corner& corner : corners_) {
-        const Lanes dx = px - Load(corner.x.data());
-        const Lanes dy = py - Load(corner.y.data());
+        const Lanes dx = px - Load(corner.x);
+        const Lanes dy = py - Load(corner.y);
         weight *= PointWeight(dx, dy);
-        const Lanes baseX = Load(corner.baseX.data());
-        const Lanes first = dx * Load(corner.baseY.data());
+        const Lanes baseX = Load(corner.baseX);
+        const Lanes first = dx * Load(corner.baseY);
         const Lanes second = dy * baseX;
         parallel |= (Magnitude(first - second) <= kRounding * Magnitude(first)) & (baseX != 0.0);
     }
-    Lanes rotations = Load(rotations_.data());
-    if ((parallel[0] | parallel[1] | parallel[2] | parallel[3]) != 0) {
+    Lanes rotations = Load(rotations_);
+    if (Any(parallel)) {
         for (std::size_t i = 0; i < size_; ++i) {
             rotations[i] -= LeftOut(i, p);
         }
     }
     weight *= rotations;
-    const Lanes dx = px - Load(corners_[0].x.data());
-    const Lanes dy = py - Load(corners_[0].y.data());
-    const Lanes x = Load(x_.data()) + Load(xx_.data()) * dx + Load(xy_.data()) * dy;
-    const Lanes y = Load(y_.data()) + Load(yx_.data()) * dx + Load(yy_.data()) * dy;
+    const Lanes dx = px - Load(corners_[0].x);
+    const Lanes dy = py - Load(corners_[0].y);
+    const Lanes x = Load(x_) + Load(xx_) * dx + Load(xy_) * dy;
+    const Lanes y = Load(y_) + Load(yx_) * dx + Load(yy_) * dy;
     const double sum = SumOf(weight);
     if (sum == 0.0) {
         return {};

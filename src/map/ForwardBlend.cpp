@@ -118,44 +118,27 @@ void ForwardBlend::PrepareMoments()
         begin = end;
     }
 
-    packedColumns_ = PackColumns(points_, columns_);
-
     const auto [south, north] = std::minmax_element(
         places_.begin(), places_.end(), [](PlanePoint a, PlanePoint b) { return a.y < b.y; });
     const double width = places_.back().x - places_.front().x;
     const double height = north->y - south->y;
-    middle_ = {.x = places_.front().x + width / 2.0, .y = south->y + height / 2.0};
-    far_ = kFar * std::max(width, height);
-
-    const std::size_t filled = (points_.size() + kLanes - 1) / kLanes * kLanes;
-    longitude_.assign(filled, kNowhere);
-    latitude_.assign(filled, kNowhere);
-    x_.assign(filled, 0.0);
-    y_.assign(filled, 0.0);
-    for (std::size_t i = 0; i < points_.size(); ++i) {
-        longitude_[i] = points_[i].Longitude;
-        latitude_[i] = points_[i].Latitude;
-        x_[i] = points_[i].X;
-        y_[i] = points_[i].Y;
-    }
+    extent_ = {
+        .middle = {.x = places_.front().x + width / 2.0, .y = south->y + height / 2.0},
+        .far = kFar * std::max(width, height),
+    };
+    packs_ = PackPoints(points_);
+    packedColumns_ = PackColumns(points_, columns_);
+    spread_ = SpreadPoints(points_);
 }
 
-PointArrays ForwardBlend::Arrays() const
+PreparedPoints ForwardBlend::Prepared() const
 {
-    return {.longitude = longitude_.data(),
-            .latitude = latitude_.data(),
-            .x = x_.data(),
-            .y = y_.data(),
-            .size = points_.size(),
-            .filled = longitude_.size()};
-}
-
-Viewpoint<double> ForwardBlend::View(PlanePoint p) const
-{
-    const double x = p.x - middle_.x;
-    const double y = p.y - middle_.y;
-    const bool isFar = std::fabs(x) > far_ || std::fabs(y) > far_;
-    return {.x = p.x, .y = p.y, .fromOriginX = isFar ? x : 0.0, .fromOriginY = isFar ? y : 0.0};
+    return {.packs = packs_,
+            .packedColumns = packedColumns_,
+            .spread = spread_,
+            .columns = columns_,
+            .bases = bases_,
+            .extent = extent_};
 }
 
 Pixel ForwardBlend::At(geo::GeoPosition position) const
@@ -173,45 +156,33 @@ void ForwardBlend::At(std::span<const geo::GeoPosition> positions, std::span<Pix
                        [this](geo::GeoPosition position) { return At(position); });
         return;
     }
-    const PointArrays arrays = Arrays();
+    const PreparedPoints prepared = Prepared();
     for (std::size_t i = 0; i < positions.size(); i += kLanes) {
         const std::size_t count = std::min(kLanes, positions.size() - i);
-        Viewpoint<Lanes> view = {};
+        std::array<PlanePoint, kLanes> places;
         for (std::size_t lane = 0; lane < kLanes; ++lane) {
             // A last pack that is not full repeats its first position.
-            const Viewpoint<double> one = View(Place(positions[lane < count ? i + lane : i]));
-            view.x[lane] = one.x;
-            view.y[lane] = one.y;
-            view.fromOriginX[lane] = one.fromOriginX;
-            view.fromOriginY[lane] = one.fromOriginY;
+            places[lane] = Place(positions[lane < count ? i + lane : i]);
         }
-        std::array<Pixel, kLanes> found;
-        const LaneFlags done = FitPlaces(arrays, bases_, columns_, view, found);
+        const PackOfPixels found = FitPlaces(prepared, places);
         for (std::size_t lane = 0; lane < count; ++lane) {
             const geo::GeoPosition position = positions[i + lane];
-            const bool usable = done[lane] && collinear_.empty() && IsFinite(position);
-            pixels[i + lane] = usable ? found[lane] : At(position);
+            const bool usable = found.done[lane] && collinear_.empty() && IsFinite(position);
+            pixels[i + lane] = usable ? found.pixels[lane] : At(position);
         }
     }
 }
 
 Pixel ForwardBlend::ByMoments(PlanePoint p) const
 {
-    const PointArrays arrays = Arrays();
-    const Viewpoint<double> view = View(p);
-    const PointSums sums = SumPoints(arrays, bases_, view);
-    const Fit<double> fit = FitOf(sums.moments, view);
-    WeightedPixel<double> sum = fit.margin > 0.0
-                                    ? WithoutColumns(fit.sum, packedColumns_, sums.moments, view)
-                                    : BlendByElimination(points_, columns_, p);
+    const PointSums sums = SumPoints(Prepared(), p);
+    WeightedPixel<double> sum = sums.exact ? sums.sum : BlendByElimination(points_, columns_, p);
     for (const Triangle& t : collinear_) {
         const bool onColumn = places_[t.i].x == places_[t.j].x || places_[t.j].x == places_[t.k].x;
         SubtractTriangle(sum, p, t, onColumn ? 2.0 : 3.0);
     }
     for (std::size_t i = 0; i < sums.count; ++i) {
-        if (sums.inLine[i] < points_.size()) {
-            SubtractParallel(sum, p, sums.inLine[i]);
-        }
+        SubtractParallel(sum, p, sums.inLine[i]);
     }
     if (sum.weight == 0.0) {
         return {};

@@ -25,9 +25,7 @@
 
 namespace map {
 
-struct PointArrays;
-template <typename V>
-struct Viewpoint;
+struct PreparedPoints;
 template <typename V>
 struct WeightedPixel;
 
@@ -49,28 +47,27 @@ private:
     void PrepareMoments();
     void PrepareFewTriangles();
 
-    PointArrays Arrays() const;
-    Viewpoint<double> View(PlanePoint p) const;
+    PreparedPoints Prepared() const;
     Pixel ByMoments(PlanePoint p) const;
     void SubtractParallel(WeightedPixel<double>& sum, PlanePoint p, std::size_t c) const;
     void SubtractTriangle(WeightedPixel<double>& sum, PlanePoint p, const Triangle& triangle,
                           double rotations) const;
 
-    // Points in use, by longitude, and the same as arrays.
+    // Points in use, by longitude, and their places.
     std::vector<ReferencePoint> points_;
     std::vector<PlanePoint> places_;
-    std::vector<double> longitude_;
-    std::vector<double> latitude_;
-    std::vector<double> x_;
-    std::vector<double> y_;
 
     std::vector<Column> columns_;
+
+    // The same once more, laid out for one position and for a pack of them.
+    std::vector<PointPack> packs_;
     std::vector<PackedColumns> packedColumns_;
+    std::vector<PointPack> spread_;
+
     std::vector<Triangle> collinear_;
     ParallelBases bases_;
+    Extent extent_;
     FewTriangles few_;  // instead of all these, when there are not more
-    PlanePoint middle_;
-    double far_ = 0.0;  // degrees from the middle beyond which sums start there
 };
 
 }  // namespace map

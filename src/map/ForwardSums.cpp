@@ -1,10 +1,23 @@
 #include "map/ForwardSums.h"
 
+#include <cstring>
+
 namespace map {
 
 namespace {
 
-static_assert(PackedColumns::kSide == kLanes);
+static_assert(PointPack::kSide == kLanes);
+
+// A position beyond the extent is summed from the middle of the table.
+template <typename V>
+[[gnu::always_inline]] inline Viewpoint<V> View(const Extent& extent, const V& x, const V& y)
+{
+    const V offX = x - extent.middle.x;
+    const V offY = y - extent.middle.y;
+    const auto isFar =
+        (offX > extent.far) | (offX < -extent.far) | (offY > extent.far) | (offY < -extent.far);
+    return {.x = x, .y = y, .fromOriginX = isFar ? offX : V{}, .fromOriginY = isFar ? offY : V{}};
+}
 
 [[gnu::always_inline]] inline Moments<double> TotalOf(const Moments<Lanes>& m)
 {
@@ -12,95 +25,122 @@ static_assert(PackedColumns::kSide == kLanes);
             SumOf(m.u),   SumOf(m.v), SumOf(m.xu), SumOf(m.yu), SumOf(m.xv), SumOf(m.yv)};
 }
 
-// Which directions of a pack a base may have.
-struct PackFilter {
-    LaneIndices step;
-    std::uint32_t any;
-
-    [[gnu::always_inline]] PackFilter(const DirectionFilter& filter, const Lanes& cosine2)
-        : step(__builtin_convertvector(cosine2 * DirectionFilter::kScale, LaneIndices)),
-          any(filter.Perhaps(step[0]) | filter.Perhaps(step[1]) | filter.Perhaps(step[2])
-              | filter.Perhaps(step[3]))
-    {
-    }
-};
-
-// SumPoints from an origin known before.
-template <Origin origin>
-[[gnu::always_inline]] inline void AddPoints(PointSums& sums, const PointArrays& from,
-                                             const DirectionFilter& filter,
-                                             const Viewpoint<double>& p)
-{
-    const Viewpoint<Lanes> view = {Broadcast(p.x), Broadcast(p.y), Broadcast(p.fromOriginX),
-                                   Broadcast(p.fromOriginY)};
-    Moments<Lanes> moments;
-    for (std::size_t i = 0; i < from.filled; i += kLanes) {
-        const Lanes cosine2 =
-            moments.Add<origin>(view, Load(from.longitude + i), Load(from.latitude + i),
-                                Load(from.x + i), Load(from.y + i));
-        const PackFilter pack(filter, cosine2);
-        for (std::size_t lane = 0; pack.any != 0 && lane < kLanes; ++lane) {
-            if (filter.Possible(pack.step[lane])) {
-                sums.inLine[sums.count++] = static_cast<std::uint16_t>(i + lane);
-            }
-        }
-    }
-    sums.moments = TotalOf(moments);
-}
-
-struct LaneSums {
-    Moments<Lanes> moments;
-    LaneFlags inLine;  // whether a point is seen along a base, but for rounding
-};
-
-template <Origin origin>
-[[gnu::always_inline]] inline void AddPoints(LaneSums& sums, const PointArrays& from,
-                                             const ParallelBases& bases, const Viewpoint<Lanes>& p)
-{
-    const DirectionFilter filter = bases.Filter();
-    Moments<Lanes> moments;
-    for (std::size_t i = 0; i < from.size; ++i) {
-        const Lanes cosine2 =
-            moments.Add<origin>(p, Broadcast(from.longitude[i]), Broadcast(from.latitude[i]),
-                                Broadcast(from.x[i]), Broadcast(from.y[i]));
-        const PackFilter pack(filter, cosine2);
-        for (std::size_t lane = 0; pack.any != 0 && lane < kLanes; ++lane) {
-            if (filter.Possible(pack.step[lane])
-                && bases.HasNear(p.x[lane] - from.longitude[i], p.y[lane] - from.latitude[i])) {
-                sums.inLine[lane] = true;
-            }
-        }
-    }
-    sums.moments = moments;
-}
-
-[[gnu::always_inline]] inline bool IsZero(const Lanes& v)
-{
-    return v[0] == 0.0 && v[1] == 0.0 && v[2] == 0.0 && v[3] == 0.0;
-}
-
 [[gnu::always_inline]] inline Moments<Lanes> SpreadOf(const Moments<double>& m)
 {
-    return {Broadcast(m.one), Broadcast(m.x),  Broadcast(m.y),  Broadcast(m.xx),
-            Broadcast(m.xy),  Broadcast(m.yy), Broadcast(m.u),  Broadcast(m.v),
-            Broadcast(m.xu),  Broadcast(m.yu), Broadcast(m.xv), Broadcast(m.yv)};
+    return {Spread(m.one), Spread(m.x), Spread(m.y),  Spread(m.xx), Spread(m.xy), Spread(m.yy),
+            Spread(m.u),   Spread(m.v), Spread(m.xu), Spread(m.yu), Spread(m.xv), Spread(m.yv)};
 }
 
-// WithoutColumns for a pack of positions.
-[[gnu::always_inline]] inline WeightedPixel<Lanes>
-LessColumns(WeightedPixel<Lanes> sum, const PointArrays& points, std::span<const Column> columns,
-            const Moments<Lanes>& all, const Viewpoint<Lanes>& p)
+// Whether a base may have one of four directions.
+[[gnu::always_inline]] inline bool AnyPerhaps(const DirectionFilter& filter,
+                                              const std::int32_t* step)
 {
-    sum.weight *= 3.0;
-    sum.x *= 3.0;
-    sum.y *= 3.0;
+    const std::uint32_t any = filter.Perhaps(step[0]) | filter.Perhaps(step[1])
+                              | filter.Perhaps(step[2]) | filter.Perhaps(step[3]);
+    return (any & 1U) != 0;
+}
+
+// The directions in which the lanes of each pack are seen. Tables too large for this ring have no
+// bases to look for.
+struct Directions {
+    static constexpr std::size_t kPacks = 256;
+    static_assert(kPacks >= kExactPoints);
+
+    std::array<std::int32_t, kPacks * kLanes> steps;
+
+    [[gnu::always_inline]] void Put(std::size_t pack, const Lanes& cosine2)
+    {
+        const LaneIndices step =
+            __builtin_convertvector(cosine2 * DirectionFilter::kScale, LaneIndices);
+        std::memcpy(&steps[pack % kPacks * kLanes], &step, sizeof(step));
+    }
+};
+
+// Sums over packs, lane by lane.
+template <Origin origin>
+[[gnu::always_inline]] inline Moments<Lanes>
+SumPacks(Directions& directions, std::span<const PointPack> packs, const Viewpoint<Lanes>& p)
+{
+    Moments<Lanes> moments;
+    for (std::size_t i = 0; i < packs.size(); ++i) {
+        const PointPack& pack = packs[i];
+        directions.Put(i, moments.Add<origin>(p, Load(pack.longitude), Load(pack.latitude),
+                                              Load(pack.x), Load(pack.y)));
+    }
+    return moments;
+}
+
+[[gnu::always_inline]] inline Moments<Lanes>
+SumPacks(Directions& directions, std::span<const PointPack> packs, const Viewpoint<Lanes>& p)
+{
+    return Any((p.fromOriginX != 0.0) | (p.fromOriginY != 0.0))
+               ? SumPacks<Origin::AtMiddle>(directions, packs, p)
+               : SumPacks<Origin::AtP>(directions, packs, p);
+}
+
+// Calls visit(pack, lane) for each direction that a base may have. Apart from the sums, because a
+// call among them would drive them from the registers.
+template <typename Visit>
+[[gnu::always_inline]] inline void ForEachPossible(const Directions& directions,
+                                                   const ParallelBases& bases, std::size_t packs,
+                                                   Visit visit)
+{
+    if (bases.All().empty()) {
+        return;
+    }
+    const DirectionFilter filter = bases.Filter();
+    for (std::size_t i = 0; i < packs; ++i) {
+        const std::int32_t* const step = &directions.steps[i * kLanes];
+        if (!AnyPerhaps(filter, step)) {
+            continue;
+        }
+        for (std::size_t lane = 0; lane < kLanes; ++lane) {
+            if (filter.Possible(step[lane])) {
+                visit(i, lane);
+            }
+        }
+    }
+}
+
+// Three times `once`, which holds one rotation of each triangle, without the rotations over the
+// bases of columns.
+[[gnu::always_inline]] inline WeightedPixel<double>
+WithoutColumns(const WeightedPixel<double>& once, std::span<const PackedColumns> columns,
+               const Moments<double>& all, const Viewpoint<Lanes>& p)
+{
+    WeightedPixel<double> sum = {3.0 * once.weight, 3.0 * once.x, 3.0 * once.y};
+    for (const PackedColumns& pack : columns) {
+        ColumnMoments<Lanes> column;
+        for (const PointPack& row : pack.rows) {
+            const Lanes dy = Load(row.latitude) - p.y;
+            column.Add(PointWeight<Lanes>(Load(row.longitude) - p.x, dy), dy + p.fromOriginY,
+                       Load(row.x), Load(row.y));
+        }
+        const Lanes x = (Load(pack.rows.front().longitude) - p.x) + p.fromOriginX;
+        const WeightedPixel<Lanes> share =
+            column.Share(ApexesOf(SpreadOf(all), x), p.fromOriginX - x, p.fromOriginY);
+        sum.weight -= SumOf(share.weight);
+        sum.x -= SumOf(share.x);
+        sum.y -= SumOf(share.y);
+    }
+    return sum;
+}
+
+// The same for a pack of positions.
+[[gnu::always_inline]] inline WeightedPixel<Lanes> WithoutColumns(const WeightedPixel<Lanes>& once,
+                                                                  std::span<const PointPack> points,
+                                                                  std::span<const Column> columns,
+                                                                  const Moments<Lanes>& all,
+                                                                  const Viewpoint<Lanes>& p)
+{
+    WeightedPixel<Lanes> sum = {3.0 * once.weight, 3.0 * once.x, 3.0 * once.y};
     for (const Column& column : columns) {
         ColumnMoments<Lanes> moments;
-        const Lanes dx = points.longitude[column.begin] - p.x;
+        const Lanes dx = Load(points[column.begin].longitude) - p.x;
         for (std::size_t i = column.begin; i < column.end; ++i) {
-            const Lanes dy = points.latitude[i] - p.y;
-            moments.Add(PointWeight(dx, dy), dy + p.fromOriginY, Broadcast(points.x[i]),
-                        Broadcast(points.y[i]));
+            const Lanes dy = Load(points[i].latitude) - p.y;
+            moments.Add(PointWeight(dx, dy), dy + p.fromOriginY, Load(points[i].x),
+                        Load(points[i].y));
         }
         const Lanes x = dx + p.fromOriginX;
         const WeightedPixel<Lanes> share =
@@ -114,64 +154,55 @@ LessColumns(WeightedPixel<Lanes> sum, const PointArrays& points, std::span<const
 
 }  // namespace
 
-KOMPASSO_WIDE PointSums SumPoints(const PointArrays& points, const ParallelBases& bases,
-                                  const Viewpoint<double>& p)
+KOMPASSO_WIDE PointSums SumPoints(const PreparedPoints& table, PlanePoint p)
 {
-    PointSums sums;
-    sums.count = 0;
-    if (p.fromOriginX == 0.0 && p.fromOriginY == 0.0) {
-        AddPoints<Origin::AtP>(sums, points, bases.Filter(), p);
-    } else {
-        AddPoints<Origin::AtMiddle>(sums, points, bases.Filter(), p);
-    }
-    return sums;
+    const Viewpoint<double> one = View(table.extent, p.x, p.y);
+    const Viewpoint<Lanes> view = {Spread(one.x), Spread(one.y), Spread(one.fromOriginX),
+                                   Spread(one.fromOriginY)};
+    Directions directions;
+    const Moments<double> moments = TotalOf(SumPacks(directions, table.packs, view));
+    const Fit<double> fit = FitOf(moments, one);
+    PointSums result;
+    result.sum = WithoutColumns(fit.sum, table.packedColumns, moments, view);
+    result.exact = fit.margin > 0.0;
+    result.count = 0;
+    ForEachPossible(directions, table.bases, table.packs.size(),
+                    [&](std::size_t pack, std::size_t lane) {
+                        const std::size_t point = pack * kLanes + lane;
+                        if (point < table.spread.size()) {  // no filler
+                            result.inLine[result.count++] = static_cast<std::uint16_t>(point);
+                        }
+                    });
+    return result;
 }
 
-KOMPASSO_WIDE LaneFlags FitPlaces(const PointArrays& points, const ParallelBases& bases,
-                                  std::span<const Column> columns, const Viewpoint<Lanes>& p,
-                                  std::span<Pixel, kLanes> pixels)
+KOMPASSO_WIDE PackOfPixels FitPlaces(const PreparedPoints& table,
+                                     std::span<const PlanePoint, kLanes> places)
 {
-    LaneSums sums = {};
-    if (IsZero(p.fromOriginX) && IsZero(p.fromOriginY)) {
-        AddPoints<Origin::AtP>(sums, points, bases, p);
-    } else {
-        AddPoints<Origin::AtMiddle>(sums, points, bases, p);
-    }
-    const Fit<Lanes> fit = FitOf(sums.moments, p);
-    const WeightedPixel<Lanes> sum = LessColumns(fit.sum, points, columns, sums.moments, p);
-    const Lanes x = sum.x / sum.weight;
-    const Lanes y = sum.y / sum.weight;
-    LaneFlags done{};
+    const Lanes x = {places[0].x, places[1].x, places[2].x, places[3].x};
+    const Lanes y = {places[0].y, places[1].y, places[2].y, places[3].y};
+    const Viewpoint<Lanes> view = View(table.extent, x, y);
+    Directions directions;
+    const Moments<Lanes> moments = SumPacks(directions, table.spread, view);
+    const Fit<Lanes> fit = FitOf(moments, view);
+    const WeightedPixel<Lanes> sum =
+        WithoutColumns(fit.sum, table.spread, table.columns, moments, view);
+    const Lanes pixelX = sum.x / sum.weight;
+    const Lanes pixelY = sum.y / sum.weight;
+    PackOfPixels pack;
     for (std::size_t lane = 0; lane < kLanes; ++lane) {
-        pixels[lane] = {.x = x[lane], .y = y[lane]};
-        done[lane] = fit.margin[lane] > 0.0 && !sums.inLine[lane];
+        pack.pixels[lane] = {.x = pixelX[lane], .y = pixelY[lane]};
+        pack.done[lane] = fit.margin[lane] > 0.0;
     }
-    return done;
-}
-
-KOMPASSO_WIDE WeightedPixel<double> WithoutColumns(const WeightedPixel<double>& once,
-                                                   std::span<const PackedColumns> columns,
-                                                   const Moments<double>& moments,
-                                                   const Viewpoint<double>& p)
-{
-    WeightedPixel<double> sum = {3.0 * once.weight, 3.0 * once.x, 3.0 * once.y};
-    const Lanes fromOriginX = Broadcast(p.fromOriginX);
-    const Lanes fromOriginY = Broadcast(p.fromOriginY);
-    for (const PackedColumns& pack : columns) {
-        ColumnMoments<Lanes> column;
-        for (const PackedColumns::Row& row : pack.rows) {
-            const Lanes dy = Load(row.latitude.data()) - p.y;
-            const Lanes weight = PointWeight(Load(row.longitude.data()) - p.x, dy);
-            column.Add(weight, dy + fromOriginY, Load(row.x.data()), Load(row.y.data()));
-        }
-        const Lanes x = (Load(pack.rows.front().longitude.data()) - p.x) + fromOriginX;
-        const ApexMoments<Lanes> apexes = ApexesOf(SpreadOf(moments), x);
-        const WeightedPixel<Lanes> share = column.Share(apexes, fromOriginX - x, fromOriginY);
-        sum.weight -= SumOf(share.weight);
-        sum.x -= SumOf(share.x);
-        sum.y -= SumOf(share.y);
-    }
-    return sum;
+    ForEachPossible(directions, table.bases, table.spread.size(),
+                    [&](std::size_t point, std::size_t lane) {
+                        const Lanes dx = x - Load(table.spread[point].longitude);
+                        const Lanes dy = y - Load(table.spread[point].latitude);
+                        if (table.bases.HasNear(dx[lane], dy[lane])) {
+                            pack.done[lane] = false;
+                        }
+                    });
+    return pack;
 }
 
 }  // namespace map

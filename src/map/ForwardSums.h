@@ -1,4 +1,5 @@
-// The inner loops of ForwardBlend, over packs of doubles.
+// The sums of ForwardBlend over all reference points: for one position, a pack of points at a time,
+// and for a pack of positions, point by point.
 
 #pragma once
 
@@ -16,38 +17,35 @@
 
 namespace map {
 
-// Reference points, filled up to whole packs with points of no weight.
-struct PointArrays {
-    const double* longitude;
-    const double* latitude;
-    const double* x;
-    const double* y;
-    std::size_t size;    // of the points
-    std::size_t filled;  // a multiple of kLanes
+// A prepared table, laid out for one position and for a pack of them. Points by longitude.
+struct PreparedPoints {
+    std::span<const PointPack> packs;  // four points to a pack
+    std::span<const PackedColumns> packedColumns;
+    std::span<const PointPack> spread;
+    std::span<const Column> columns;  // of `spread`
+    const ParallelBases& bases;
+    const Extent& extent;
 };
 
+// All rotations as seen from one position but those over columns, with the points that may be seen
+// along a base still in.
 struct PointSums {
-    Moments<double> moments;
-    std::size_t count;                                        // of the following
-    std::array<std::uint16_t, kExactPoints + kLanes> inLine;  // perhaps seen along a base
+    WeightedPixel<double> sum;
+    bool exact;  // false when the points nearly lie in a line, and the sum is to be thrown away
+    std::size_t count;  // of the following
+    std::array<std::uint16_t, kExactPoints + kLanes>
+        inLine;  // points that may be seen along a base
 };
 
-// Sums over all points, a pack of points at a time. `inLine` may name fillers.
-PointSums SumPoints(const PointArrays& points, const ParallelBases& bases,
-                    const Viewpoint<double>& p);
+PointSums SumPoints(const PreparedPoints& table, PlanePoint p);
 
-using LaneFlags = std::array<bool, kLanes>;
+// The pixels of a pack of positions, and whether each is final. One that is not has to be computed
+// by itself: a point is seen along a base, or the points nearly lie in a line.
+struct PackOfPixels {
+    std::array<Pixel, kLanes> pixels;
+    std::array<bool, kLanes> done;
+};
 
-// The pixels of a pack of positions. False for one that has to be computed by itself: a point may
-// be seen along a base, or the points lie nearly in a line.
-LaneFlags FitPlaces(const PointArrays& points, const ParallelBases& bases,
-                    std::span<const Column> columns, const Viewpoint<Lanes>& p,
-                    std::span<Pixel, kLanes> pixels);
-
-// Three times `once`, which holds one rotation of each triangle, without the rotations over the
-// bases of columns.
-WeightedPixel<double> WithoutColumns(const WeightedPixel<double>& once,
-                                     std::span<const PackedColumns> columns,
-                                     const Moments<double>& moments, const Viewpoint<double>& p);
+PackOfPixels FitPlaces(const PreparedPoints& table, std::span<const PlanePoint, kLanes> places);
 
 }  // namespace map

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 
@@ -16,22 +17,30 @@
 namespace map {
 
 using Lanes = double __attribute__((vector_size(32)));
+using LaneMask = std::int64_t __attribute__((vector_size(32)));
 using LaneIndices = std::int32_t __attribute__((vector_size(16)));
 inline constexpr std::size_t kLanes = sizeof(Lanes) / sizeof(double);
 
-[[gnu::always_inline]] inline Lanes Load(const double* values)
+[[gnu::always_inline]] inline Lanes Load(const std::array<double, kLanes>& values)
 {
     return Lanes{values[0], values[1], values[2], values[3]};
-}
-
-[[gnu::always_inline]] inline Lanes Broadcast(double value)
-{
-    return value - Lanes{};
 }
 
 [[gnu::always_inline]] inline double SumOf(const Lanes& v)
 {
     return (v[0] + v[2]) + (v[1] + v[3]);
+}
+
+// The same number in every lane.
+[[gnu::always_inline]] inline Lanes Spread(double value)
+{
+    return Lanes{value, value, value, value};
+}
+
+// Whether a comparison holds in any lane.
+[[gnu::always_inline]] inline bool Any(const LaneMask& mask)
+{
+    return (mask[0] | mask[1] | mask[2] | mask[3]) != 0;
 }
 
 }  // namespace map

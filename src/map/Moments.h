@@ -54,21 +54,25 @@ struct Moments {
         const V weight = PointWeight(dx, dy);
         const V placeX = origin == Origin::AtP ? dx : dx + p.fromOriginX;
         const V placeY = origin == Origin::AtP ? dy : dy + p.fromOriginY;
-        const V weightedX = weight * placeX;
+        // In an order that keeps few intermediate values at a time: with the sums they just fill
+        // the registers.
+        const V weightedU = weight * pointU;
+        u += weightedU;
+        xu += weightedU * placeX;
+        yu += weightedU * placeY;
+        const V weightedV = weight * pointV;
+        v += weightedV;
+        xv += weightedV * placeX;
+        yv += weightedV * placeY;
         const V weightedY = weight * placeY;
-        const V weightedXX = weightedX * placeX;
         one += weight;
-        x += weightedX;
         y += weightedY;
-        xx += weightedXX;
-        xy += weightedX * placeY;
         yy += weightedY * placeY;
-        u += weight * pointU;
-        v += weight * pointV;
-        xu += weightedX * pointU;
-        yu += weightedY * pointU;
-        xv += weightedX * pointV;
-        yv += weightedY * pointV;
+        const V weightedX = weight * placeX;
+        const V weightedXX = weightedX * placeX;
+        x += weightedX;
+        xy += weightedX * placeY;
+        xx += weightedXX;
         return origin == Origin::AtP ? weightedXX : weight * dx * dx;
     }
 };

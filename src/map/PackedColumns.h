@@ -1,4 +1,4 @@
-// Columns of reference points, laid out for evaluation side by side.
+// Reference points, and columns of them, laid out for evaluation side by side.
 
 #pragma once
 
@@ -12,21 +12,25 @@
 
 namespace map {
 
-// A coordinate that fills a pack up: at this distance a point has the weight 0.
-inline constexpr double kNowhere = 1e160;
-
-// Up to four columns side by side, a point of each to a row; lanes without one have no weight.
-struct PackedColumns {
+// Points side by side. A lane without one stands so far away that its weight is 0.
+struct PointPack {
     static constexpr std::size_t kSide = 4;
 
-    struct Row {
-        std::array<double, kSide> longitude;
-        std::array<double, kSide> latitude;
-        std::array<double, kSide> x;
-        std::array<double, kSide> y;
-    };
+    std::array<double, kSide> longitude;
+    std::array<double, kSide> latitude;
+    std::array<double, kSide> x;
+    std::array<double, kSide> y;
+};
 
-    std::vector<Row> rows;
+// Four points to a pack, in their order.
+std::vector<PointPack> PackPoints(std::span<const ReferencePoint> points);
+
+// Each point in a pack of its own, in every lane.
+std::vector<PointPack> SpreadPoints(std::span<const ReferencePoint> points);
+
+// Up to four columns side by side, a point of each to a row. All of a lane has one longitude.
+struct PackedColumns {
+    std::vector<PointPack> rows;
 };
 
 std::vector<PackedColumns> PackColumns(std::span<const ReferencePoint> points,

@@ -34,10 +34,11 @@ struct DirectionFilter {
 
     static std::uint32_t BitOf(const std::uint32_t* table, std::uint32_t bit)
     {
-        return table[bit / 32] >> (bit % 32) & 1U;
+        return table[bit / 32] >> (bit % 32);
     }
 
-    // The first answer, 0 or 1. `step` is the squared cosine times kScale.
+    // The first answer, in the lowest bit; the others mean nothing, so that several answers can be
+    // combined before one look. `step` is the squared cosine times kScale.
     std::uint32_t Perhaps(std::int32_t step) const
     {
         return BitOf(low, static_cast<std::uint32_t>(step) & mask);
@@ -46,8 +47,8 @@ struct DirectionFilter {
     // Both together; rounding may lift a step to the full scale.
     bool Possible(std::int32_t step) const
     {
-        return Perhaps(step) != 0
-               && BitOf(high, (static_cast<std::uint32_t>(step) >> shift) & mask) != 0;
+        return (Perhaps(step) & 1U) != 0
+               && (BitOf(high, (static_cast<std::uint32_t>(step) >> shift) & mask) & 1U) != 0;
     }
 };
 

@@ -27,6 +27,12 @@ inline bool InRange(PlanePoint p)
     return std::fabs(p.x) <= kFarthestPoint && std::fabs(p.y) <= kFarthestPoint;
 }
 
+// Where a table lies: positions beyond `far` degrees from its middle are summed from there.
+struct Extent {
+    PlanePoint middle;
+    double far = 0.0;
+};
+
 // A run of points of equal x, in an order by x.
 struct Column {
     std::size_t begin = 0;
