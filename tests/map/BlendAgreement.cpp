@@ -22,15 +22,17 @@ double Distance(double a, double b)
     return std::isnan(distance) ? std::numeric_limits<double>::infinity() : distance;
 }
 
-// Results beyond the 16-bit range end at its limits, so that only their side counts.
-double InRange(double pixel)
+// Results are shown within the 16-bit range; two beyond it on the same side end at its limit.
+double ShownDistance(double a, double b)
 {
-    return std::isnan(pixel) ? pixel : std::clamp(pixel, -33000.0, 33000.0);
+    constexpr double kLimit = 32768.0;
+    const bool equal = (a > kLimit && b > kLimit) || (a < -kLimit && b < -kLimit);
+    return equal ? 0.0 : Distance(a, b);
 }
 
 double Distance(Pixel a, Pixel b)
 {
-    return std::max(Distance(InRange(a.x), InRange(b.x)), Distance(InRange(a.y), InRange(b.y)));
+    return std::max(ShownDistance(a.x, b.x), ShownDistance(a.y, b.y));
 }
 
 double Distance(geo::GeoPosition a, geo::GeoPosition b)

@@ -14,13 +14,6 @@
 namespace map {
 namespace {
 
-// Few large tables, many small ones: the step-by-step form takes the cube of the size.
-int TableSize(Random& random)
-{
-    const double part = Between(random, 0.0, 1.0);
-    return 3 + static_cast<int>(47.99 * part * part * part * part);
-}
-
 std::vector<geo::GeoPosition> PositionsOf(const SampleMap& map)
 {
     std::vector<geo::GeoPosition> positions;
@@ -34,11 +27,10 @@ TEST(ForwardBlend, AgreesWithTheTrianglesOnScannedSheets)
 {
     Random random(11);
     for (int table = 0; table < 10000; ++table) {
-        const SampleMap map = ScannedSheet(random, TableSize(random));
-        std::vector<geo::GeoPosition> positions(5);
-        for (geo::GeoPosition& position : positions) {
-            position = PositionAround(random, map);
-        }
+        const SampleMap map = ScannedSheet(random, TableSize(table));
+        std::vector<geo::GeoPosition> positions = map.edges;
+        positions.push_back(PositionInside(random, map));
+        positions.push_back(PositionAround(random, map));
         ASSERT_TRUE(ForwardAgrees(map.points, positions)) << "table " << table;
     }
 }

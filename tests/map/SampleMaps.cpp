@@ -33,24 +33,33 @@ SampleMap ScannedSheet(Random& random, int count)
     const double turn = Between(random, -5.0, 5.0) * kDegree;
     const double middleLongitude = Between(random, -10.0, 30.0);
     const double middleLatitude = Between(random, 40.0, 60.0);
-    while (map.points.size() < static_cast<std::size_t>(count)) {
-        const double x = base::RoundHalfEven(Between(random, 0.0, map.size.width));
-        const double y = base::RoundHalfEven(Between(random, 0.0, map.size.height));
-        const double right = (x - map.size.width / 2.0) * perPixel;
-        const double up = (map.size.height / 2.0 - y) * perPixel;
+    const auto positionOf = [&](Pixel pixel) {
+        const double right = (pixel.x - map.size.width / 2.0) * perPixel;
+        const double up = (map.size.height / 2.0 - pixel.y) * perPixel;
         const double latitude = middleLatitude + right * std::sin(turn) + up * std::cos(turn);
         const double longitude =
             middleLongitude
             + (right * std::cos(turn) - up * std::sin(turn)) / std::cos(latitude * kDegree);
-        map.points.push_back({.X = x,
-                              .Y = y,
-                              .Longitude = SixDecimals(longitude),
-                              .Latitude = SixDecimals(latitude)});
+        return geo::GeoPosition{.latitude = SixDecimals(latitude),
+                                .longitude = SixDecimals(longitude)};
+    };
+    while (map.points.size() < static_cast<std::size_t>(count)) {
+        const double x = base::RoundHalfEven(Between(random, 0.0, map.size.width));
+        const double y = base::RoundHalfEven(Between(random, 0.0, map.size.height));
+        const geo::GeoPosition position = positionOf({x, y});
+        map.points.push_back(
+            {.X = x, .Y = y, .Longitude = position.longitude, .Latitude = position.latitude});
+    }
+    for (const Pixel pixel : EdgePixels(map.size)) {
+        map.edges.push_back(positionOf(pixel));
     }
     return map;
 }
 
-geo::GeoPosition PositionAround(Random& random, const SampleMap& map)
+namespace {
+
+// A position in the rectangle around the reference points, `reach` times as large.
+geo::GeoPosition PositionWithin(Random& random, const SampleMap& map, double reach)
 {
     const auto [west, east] =
         std::minmax_element(map.points.begin(), map.points.end(),
@@ -58,10 +67,30 @@ geo::GeoPosition PositionAround(Random& random, const SampleMap& map)
     const auto [south, north] =
         std::minmax_element(map.points.begin(), map.points.end(),
                             [](const auto& a, const auto& b) { return a.Latitude < b.Latitude; });
-    const double width = (east->Longitude - west->Longitude) / 2.0;
-    const double height = (north->Latitude - south->Latitude) / 2.0;
-    return {.latitude = Between(random, south->Latitude - height, north->Latitude + height),
-            .longitude = Between(random, west->Longitude - width, east->Longitude + width)};
+    const double width = reach * (east->Longitude - west->Longitude) / 2.0;
+    const double height = reach * (north->Latitude - south->Latitude) / 2.0;
+    return {
+        .latitude = (south->Latitude + north->Latitude) / 2.0 + Between(random, -height, height),
+        .longitude = (west->Longitude + east->Longitude) / 2.0 + Between(random, -width, width)};
+}
+
+}  // namespace
+
+int TableSize(int table)
+{
+    // 48 sizes, each once in 480 tables; the other 432 are small.
+    const int turn = table % 480;
+    return turn % 10 == 0 ? 3 + turn / 10 : 3 + turn % 7;
+}
+
+geo::GeoPosition PositionInside(Random& random, const SampleMap& map)
+{
+    return PositionWithin(random, map, 1.0);
+}
+
+geo::GeoPosition PositionAround(Random& random, const SampleMap& map)
+{
+    return PositionWithin(random, map, 2.0);
 }
 
 std::vector<Pixel> EdgePixels(ImageSize size)

@@ -13,6 +13,7 @@ namespace map {
 struct SampleMap {
     ImageSize size;
     std::vector<ReferencePoint> points;
+    std::vector<geo::GeoPosition> edges = {};  // of the image: corners and mid-edges
 };
 
 using Random = std::mt19937_64;
@@ -23,7 +24,13 @@ double Between(Random& random, double low, double high);
 // reference points on random pixels. Meridians converge; positions have six decimals.
 SampleMap ScannedSheet(Random& random, int count);
 
-// A position on the sheet or up to half its extent outside.
+// Sizes for tables in turn: every one from 3 to 50 comes up again and again, small ones far
+// more often, because the step-by-step form takes the cube of the size.
+int TableSize(int table);
+
+// A position in the rectangle around the reference points, and one there or up to half its extent
+// outside.
+geo::GeoPosition PositionInside(Random& random, const SampleMap& map);
 geo::GeoPosition PositionAround(Random& random, const SampleMap& map);
 
 // Corners and mid-edges.
