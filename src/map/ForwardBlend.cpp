@@ -28,12 +28,9 @@ bool IsFinite(geo::GeoPosition position)
     return std::isfinite(position.longitude) && std::isfinite(position.latitude);
 }
 
-// The place of a finite position; 0/0 for another.
+// The place of a finite position.
 PlanePoint Place(geo::GeoPosition position)
 {
-    if (!IsFinite(position)) {
-        return {};
-    }
     return {.x = std::clamp(position.longitude, -kFarthestPoint, kFarthestPoint),
             .y = std::clamp(position.latitude, -kFarthestPoint, kFarthestPoint)};
 }
@@ -159,16 +156,17 @@ void ForwardBlend::At(std::span<const geo::GeoPosition> positions, std::span<Pix
     const PreparedPoints prepared = Prepared();
     for (std::size_t i = 0; i < positions.size(); i += kLanes) {
         const std::size_t count = std::min(kLanes, positions.size() - i);
-        std::array<PlanePoint, kLanes> places;
-        for (std::size_t lane = 0; lane < kLanes; ++lane) {
-            // A last pack that is not full repeats its first position.
-            places[lane] = Place(positions[lane < count ? i + lane : i]);
+        PackOfPixels found;
+        if (count == kLanes) {
+            found = FitPlaces(prepared, positions.subspan(i).first<kLanes>());
+        } else {
+            std::array<geo::GeoPosition, kLanes> last = {};
+            std::copy_n(positions.begin() + static_cast<std::ptrdiff_t>(i), count, last.begin());
+            found = FitPlaces(prepared, last);
         }
-        const PackOfPixels found = FitPlaces(prepared, places);
         for (std::size_t lane = 0; lane < count; ++lane) {
-            const geo::GeoPosition position = positions[i + lane];
-            const bool usable = found.done[lane] && collinear_.empty() && IsFinite(position);
-            pixels[i + lane] = usable ? found.pixels[lane] : At(position);
+            const bool usable = found.done[lane] && collinear_.empty();
+            pixels[i + lane] = usable ? found.pixels[lane] : At(positions[i + lane]);
         }
     }
 }

@@ -1,6 +1,7 @@
 #include "map/ForwardSums.h"
 
 #include <cstring>
+#include <limits>
 
 namespace map {
 
@@ -17,6 +18,19 @@ template <typename V>
     const auto isFar =
         (offX > extent.far) | (offX < -extent.far) | (offY > extent.far) | (offY < -extent.far);
     return {.x = x, .y = y, .fromOriginX = isFar ? offX : V{}, .fromOriginY = isFar ? offY : V{}};
+}
+
+[[gnu::always_inline]] inline LaneMask IsFinite(const Lanes& v)
+{
+    const Lanes most = Spread(std::numeric_limits<double>::max());
+    return (v >= -most) & (v <= most);
+}
+
+// Coordinates beyond kFarthestPoint count as if they were there.
+[[gnu::always_inline]] inline Lanes Clamped(const Lanes& v)
+{
+    const Lanes most = Spread(kFarthestPoint);
+    return v > most ? most : (v < -most ? -most : v);
 }
 
 [[gnu::always_inline]] inline Moments<double> TotalOf(const Moments<Lanes>& m)
@@ -177,10 +191,17 @@ KOMPASSO_WIDE PointSums SumPoints(const PreparedPoints& table, PlanePoint p)
 }
 
 KOMPASSO_WIDE PackOfPixels FitPlaces(const PreparedPoints& table,
-                                     std::span<const PlanePoint, kLanes> places)
+                                     std::span<const geo::GeoPosition, kLanes> positions)
 {
-    const Lanes x = {places[0].x, places[1].x, places[2].x, places[3].x};
-    const Lanes y = {places[0].y, places[1].y, places[2].y, places[3].y};
+    Lanes x;
+    Lanes y;
+    for (std::size_t lane = 0; lane < kLanes; ++lane) {
+        x[lane] = positions[lane].longitude;
+        y[lane] = positions[lane].latitude;
+    }
+    const LaneMask finite = IsFinite(x) & IsFinite(y);
+    x = finite ? Clamped(x) : Lanes{};
+    y = finite ? Clamped(y) : Lanes{};
     const Viewpoint<Lanes> view = View(table.extent, x, y);
     Directions directions;
     const Moments<Lanes> moments = SumPacks(directions, table.spread, view);
@@ -189,10 +210,11 @@ KOMPASSO_WIDE PackOfPixels FitPlaces(const PreparedPoints& table,
         WithoutColumns(fit.sum, table.spread, table.columns, moments, view);
     const Lanes pixelX = sum.x / sum.weight;
     const Lanes pixelY = sum.y / sum.weight;
+    const LaneMask usable = finite & (fit.margin > 0.0) & (sum.weight != 0.0);
     PackOfPixels pack;
     for (std::size_t lane = 0; lane < kLanes; ++lane) {
         pack.pixels[lane] = {.x = pixelX[lane], .y = pixelY[lane]};
-        pack.done[lane] = fit.margin[lane] > 0.0;
+        pack.done[lane] = usable[lane] != 0;
     }
     ForEachPossible(directions, table.bases, table.spread.size(),
                     [&](std::size_t point, std::size_t lane) {

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <span>
 
+#include "geo/GeoPosition.h"
 #include "map/Lanes.h"
 #include "map/Moments.h"
 #include "map/PackedColumns.h"
@@ -21,8 +22,8 @@ namespace map {
 struct PreparedPoints {
     std::span<const PointPack> packs;  // four points to a pack
     std::span<const PackedColumns> packedColumns;
-    std::span<const PointPack> spread;
-    std::span<const Column> columns;  // of `spread`
+    std::span<const PointPack> spread;  // each point in a pack of its own
+    std::span<const Column> columns;    // of `spread`
     const ParallelBases& bases;
     const Extent& extent;
 };
@@ -31,21 +32,21 @@ struct PreparedPoints {
 // along a base still in.
 struct PointSums {
     WeightedPixel<double> sum;
-    bool exact;  // false when the points nearly lie in a line, and the sum is to be thrown away
+    bool exact;         // false when the points nearly lie in a line, and the sum is useless
     std::size_t count;  // of the following
-    std::array<std::uint16_t, kExactPoints + kLanes>
-        inLine;  // points that may be seen along a base
+    std::array<std::uint16_t, kExactPoints> inLine;  // points that may be seen along a base
 };
 
 PointSums SumPoints(const PreparedPoints& table, PlanePoint p);
 
 // The pixels of a pack of positions, and whether each is final. One that is not has to be computed
-// by itself: a point is seen along a base, or the points nearly lie in a line.
+// by itself: it is not finite, a point is seen along a base, or the points nearly lie in a line.
 struct PackOfPixels {
     std::array<Pixel, kLanes> pixels;
     std::array<bool, kLanes> done;
 };
 
-PackOfPixels FitPlaces(const PreparedPoints& table, std::span<const PlanePoint, kLanes> places);
+PackOfPixels FitPlaces(const PreparedPoints& table,
+                       std::span<const geo::GeoPosition, kLanes> positions);
 
 }  // namespace map
