@@ -3,6 +3,7 @@
 #include <cmath>
 #include <cstddef>
 #include <limits>
+#include <set>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -26,13 +27,16 @@ std::vector<geo::GeoPosition> PositionsOf(const SampleMap& map)
 TEST(ForwardBlend, AgreesWithTheTrianglesOnScannedSheets)
 {
     Random random(11);
+    std::set<std::size_t> sizes;
     for (int table = 0; table < 10000; ++table) {
         const SampleMap map = ScannedSheet(random, TableSize(table));
+        sizes.insert(map.points.size());
         std::vector<geo::GeoPosition> positions = map.edges;
         positions.push_back(PositionInside(random, map));
         positions.push_back(PositionAround(random, map));
         ASSERT_TRUE(ForwardAgrees(map.points, positions)) << "table " << table;
     }
+    EXPECT_EQ(sizes.size(), 48U) << "every size from 3 to 50";
 }
 
 TEST(ForwardBlend, AgreesWithTheTrianglesOnPrintedGrids)

@@ -1,7 +1,9 @@
 #include "map/InverseBlend.h"
 
 #include <cmath>
+#include <cstddef>
 #include <random>
+#include <set>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -33,10 +35,13 @@ std::vector<Pixel> PixelsOf(const SampleMap& map, Random& random)
 TEST(InverseBlend, AgreesWithTheTrianglesOnScannedSheets)
 {
     Random random(21);
+    std::set<std::size_t> sizes;
     for (int table = 0; table < 10000; ++table) {
         const SampleMap map = ScannedSheet(random, TableSize(table));
+        sizes.insert(map.points.size());
         ASSERT_TRUE(InverseAgrees(map.points, PixelsOf(map, random))) << "table " << table;
     }
+    EXPECT_EQ(sizes.size(), 48U) << "every size from 3 to 50";
 }
 
 TEST(InverseBlend, AgreesWithTheTrianglesOnPrintedGrids)

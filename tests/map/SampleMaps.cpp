@@ -78,9 +78,9 @@ geo::GeoPosition PositionWithin(Random& random, const SampleMap& map, double rea
 
 int TableSize(int table)
 {
-    // 48 sizes, each once in 480 tables; the other 432 are small.
-    const int turn = table % 480;
-    return turn % 10 == 0 ? 3 + turn / 10 : 3 + turn % 7;
+    // Each of the 48 sizes once in 288 tables; the other 240 are small.
+    const int turn = table % 288;
+    return turn % 6 == 0 ? 3 + turn / 6 : 3 + turn % 11;
 }
 
 geo::GeoPosition PositionInside(Random& random, const SampleMap& map)

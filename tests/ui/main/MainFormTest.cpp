@@ -151,9 +151,9 @@ TEST_F(MainFormTest, SichernAppendsThePanelAndSaysSo)
     PutFile("WORK.QTH", app::DatabaseFile({kOne}));
     ProgramRun run;
     ASSERT_TRUE(run.Start());
-    const QSignalSpy changes(&run.window, &MainForm::Changed);
     run.Type("Text14_1", u"  DL1ABC "_s);
     run.Type("Text19_1", u"1999"_s);
+    const QSignalSpy changes(&run.window, &MainForm::Changed);
     run.Click("SA_1");
     ASSERT_EQ(run.state.database.Count(), 2U);
     EXPECT_EQ(run.state.database[1],
@@ -166,6 +166,16 @@ TEST_F(MainFormTest, SichernAppendsThePanelAndSaysSo)
     EXPECT_EQ(notice->Label1->text(), u"Eintrag gespeichert!"_s);
     EXPECT_TRUE(run.dialogs.said.empty());
     EXPECT_EQ(changes.count(), 1);
+}
+
+TEST_F(MainFormTest, TypedTextsOfAStationAreAnnounced)
+{
+    ProgramRun run;
+    ASSERT_TRUE(run.Start());
+    run.Find<QLineEdit>("Text14_0")->setFocus();
+    const QSignalSpy changes(&run.window, &MainForm::Changed);
+    QTest::keyClick(run.Find<QLineEdit>("Text14_0"), 'X');
+    EXPECT_EQ(changes.count(), 1) << "an open map shows the new label";
 }
 
 TEST_F(MainFormTest, ARecordWithoutADateCarriesTheTimeOfSaving)
