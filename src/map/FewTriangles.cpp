@@ -79,12 +79,12 @@ KOMPASSO_WIDE Pixel FewTriangles::At(PlanePoint p) const
 {
     const Lanes px = Spread(p.x);
     const Lanes py = Spread(p.y);
-    Lanes weight = Load(areaSquared_);
+    Lanes distances = Spread(1.0);  // one division for all three weights
     LaneMask parallel = {};
     for (const Corner& corner : corners_) {
         const Lanes dx = px - Load(corner.x);
         const Lanes dy = py - Load(corner.y);
-        weight *= PointWeight(dx, dy);
+        distances *= GuardedSquare(dx, dy);
         const Lanes baseX = Load(corner.baseX);
         const Lanes first = dx * Load(corner.baseY);
         const Lanes second = dy * baseX;
@@ -96,7 +96,7 @@ KOMPASSO_WIDE Pixel FewTriangles::At(PlanePoint p) const
             rotations[i] -= LeftOut(i, p);
         }
     }
-    weight *= rotations;
+    const Lanes weight = rotations * Load(areaSquared_) / distances;
     const Lanes dx = px - Load(corners_[0].x);
     const Lanes dy = py - Load(corners_[0].y);
     const Lanes x = Load(x_) + Load(xx_) * dx + Load(xy_) * dy;

@@ -16,10 +16,16 @@ namespace map {
 inline constexpr double kCoincident = 1e-80;
 
 template <typename V>
-[[gnu::always_inline]] inline V PointWeight(const V& dx, const V& dy)
+[[gnu::always_inline]] inline V GuardedSquare(const V& dx, const V& dy)
 {
     const V distance2 = dx * dx + dy * dy;
-    return 1.0 / (distance2 < kCoincident ? V{} + 1e-40 : distance2);
+    return distance2 < kCoincident ? V{} + 1e-40 : distance2;
+}
+
+template <typename V>
+[[gnu::always_inline]] inline V PointWeight(const V& dx, const V& dy)
+{
+    return 1.0 / GuardedSquare(dx, dy);
 }
 
 // Where the places in the sums begin.
