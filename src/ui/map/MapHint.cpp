@@ -36,6 +36,7 @@ std::optional<double> MissedBy(const map::ReferenceTable& table, std::size_t ind
     const map::ReferencePoint point = points[index];
     others.erase(others.begin() + static_cast<std::ptrdiff_t>(index));
     std::vector<map::PlanePoint> places;
+    places.reserve(others.size());
     for (const map::ReferencePoint& other : others) {
         places.push_back({.x = other.Longitude, .y = other.Latitude});
     }
