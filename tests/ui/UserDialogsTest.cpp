@@ -265,10 +265,8 @@ TEST_F(UserDialogsTest, ADocumentIsHandedToTheDesktop)
 
 TEST_F(UserDialogsTest, WithoutADesktopNoDocumentIsOpened)
 {
-    if (QGuiApplication::platformName() != u"offscreen"_s) {
-        GTEST_SKIP() << "there is a desktop";
-    }
-    EXPECT_FALSE(dialogs.OpenDocument(InFolder("KOMPLOC1.HLP")));
+    const bool desktop = QGuiApplication::platformName() != u"offscreen"_s;
+    EXPECT_TRUE(desktop || !dialogs.OpenDocument(InFolder("KOMPLOC1.HLP")));
 }
 
 TEST(QtNameFilters, HoldEachPatternInBothCases)
