@@ -299,6 +299,7 @@ TEST_F(MapMouseTest, FewerThanThreeReferencesPutEveryClickAtZero)
     ClickAt(512, 300);
     // The estimate is 0/0; the search cannot do better.
     EXPECT_EQ(Title(), Caption({0.0, 0.0}));
+    EXPECT_EQ(state.shown.position[0], geo::GeoPosition{}) << "Station 1 goes there, too";
 }
 
 }  // namespace
