@@ -9,6 +9,7 @@
 
 #include <array>
 #include <cstdint>
+#include <string>
 
 #include "app/MapState.h"
 #include "base/NumberText.h"
@@ -62,6 +63,9 @@ struct ListState {
 
 // Start and end of a run.
 struct SessionState {
+    // As they are spelt in the program directory.
+    std::string configurationName = stations::kConfigurationName;
+    std::string backupName = stations::kBackupName;
     bool configurationSaved = false;    // the file is written once at the end of a run
     bool configurationChanged = false;  // by the configuration dialog
     stations::OldBytes workingFileBytes = stations::OldBytes::Known;

@@ -1,7 +1,5 @@
 #include "app/ShutDown.h"
 
-#include "app/StartUp.h"
-
 namespace app {
 
 std::error_code SaveAtEnd(AppState& state)
@@ -15,7 +13,7 @@ std::error_code SaveAtEnd(AppState& state)
     configuration.station2Index = 0;
     configuration.station1 = state.shown.record[0];
     configuration.station2 = state.shown.record[1];
-    return stations::WriteConfiguration(kConfigurationName, configuration,
+    return stations::WriteConfiguration(state.session.configurationName, configuration,
                                         state.session.configurationBytes);
 }
 

@@ -14,14 +14,15 @@ using stations::DatabaseStatus;
 
 bool LoadConfiguration(AppState& state)
 {
-    stations::ConfigurationContents contents = stations::ReadConfiguration(kConfigurationName);
+    stations::ConfigurationContents contents =
+        stations::ReadConfiguration(state.session.configurationName);
     state.configuration = std::move(contents.configuration);
     state.session.configurationBytes = contents.oldBytes;
     switch (contents.status) {
     case ConfigurationStatus::Read: return true;
     case ConfigurationStatus::New:
     case ConfigurationStatus::Foreign:
-        return !stations::WriteConfiguration(kConfigurationName, state.configuration,
+        return !stations::WriteConfiguration(state.session.configurationName, state.configuration,
                                              state.session.configurationBytes);
     case ConfigurationStatus::Unreadable: break;
     }

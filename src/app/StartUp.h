@@ -6,8 +6,6 @@
 
 namespace app {
 
-inline constexpr const char* kConfigurationName = "KOMP_LOC.CFG";
-
 // Reads the configuration, then the working file, then writes the backup. A missing or foreign file
 // is replaced by a new one; what a foreign one held is set aside first.
 //

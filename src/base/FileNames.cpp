@@ -89,6 +89,13 @@ bool SameFile(const std::string& first, const std::string& second)
 
 std::error_code SetAside(const std::string& name)
 {
+    std::string ignored;
+    return SetAside(name, ignored);
+}
+
+std::error_code SetAside(const std::string& name, std::string& copy)
+{
+    copy.clear();
     const std::string target = FollowLinks(name);
     struct stat status = {};
     if (stat(target.c_str(), &status) != 0) {
@@ -102,22 +109,24 @@ std::error_code SetAside(const std::string& name)
     }
     constexpr int kMostCopies = 10000;
     for (int number = 1; number <= kMostCopies; ++number) {
-        const std::string copy = target + ".ALT" + (number == 1 ? "" : std::to_string(number));
+        const std::string next = target + ".ALT" + (number == 1 ? "" : std::to_string(number));
         struct stat other = {};
-        if (lstat(copy.c_str(), &other) == 0) {
+        if (lstat(next.c_str(), &other) == 0) {
             if (SameStatus(status, other)) {
+                copy = next;
                 return {};
             }
             continue;
         }
+        copy = next;
         // A second name keeps the bytes without reading them: files are replaced, never
         // overwritten.
-        if (link(target.c_str(), copy.c_str()) == 0) {
+        if (link(target.c_str(), next.c_str()) == 0) {
             return SyncFolder(FolderOf(target));
         }
         // A file system without second names: copied, so that the old name is never vacant.
         const FileContents old = ReadFile(target);
-        return old.status == FileStatus::Readable ? WriteFile(copy, old.bytes)
+        return old.status == FileStatus::Readable ? WriteFile(next, old.bytes)
                                                   : std::make_error_code(std::errc::io_error);
     }
     return std::make_error_code(std::errc::file_exists);

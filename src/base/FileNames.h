@@ -25,5 +25,7 @@ bool SameFile(const std::string& first, const std::string& second);
 // ... when that exists. The file stays under its own name. Nothing happens to a missing or empty
 // file, nor when one of these names is already the very same file.
 std::error_code SetAside(const std::string& name);
+// The same; `copy` becomes the name under which the bytes are kept, empty when nothing had to be.
+std::error_code SetAside(const std::string& name, std::string& copy);
 
 }  // namespace base

@@ -39,6 +39,8 @@
 
 namespace stations {
 
+inline constexpr const char* kConfigurationName = "KOMP_LOC.CFG";
+
 inline constexpr std::size_t kFileNameLength = 512;
 
 struct Configuration {

@@ -3,7 +3,6 @@
 #include <filesystem>
 #include <utility>
 
-#include "base/FileNames.h"
 #include "stations/Configuration.h"
 
 namespace stations {
@@ -64,13 +63,6 @@ std::error_code SaveMarked(const std::string& name, const StationDatabase& datab
         selection.Append(database[index]);
     }
     return WriteDatabase(name, selection);
-}
-
-bool IsOwnFile(const std::string& name, const std::string& workingFile,
-               const std::string& configurationFile)
-{
-    return base::SameFile(name, workingFile) || base::SameFile(name, kBackupName)
-           || base::SameFile(name, configurationFile);
 }
 
 std::string WithDatabaseEnding(const std::string& name)

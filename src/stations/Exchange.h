@@ -41,11 +41,6 @@ ExchangeResult AppendFile(const std::string& name, StationDatabase& database);
 std::error_code SaveMarked(const std::string& name, const StationDatabase& database,
                            std::span<const std::size_t> marked);
 
-// True for a file that the program keeps itself, by any path or link: the working file, its backup,
-// the configuration. Records and listings must not be written over them.
-bool IsOwnFile(const std::string& name, const std::string& workingFile,
-               const std::string& configurationFile);
-
 // `name` with ".QTH" behind it when its last part has no ending.
 std::string WithDatabaseEnding(const std::string& name);
 

@@ -38,18 +38,22 @@ QString Title(const QString& title)
 
 }  // namespace
 
-void QtDialogs::Inform(QWidget* parent, const QString& title, const QString& text)
+void QtDialogs::Inform(QWidget* parent, const QString& title, const QString& text,
+                       const QString& informative)
 {
     QMessageBox box(QMessageBox::Information, Title(title), text, QMessageBox::Ok, parent);
     box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(informative);
     box.exec();
 }
 
-bool QtDialogs::AskOkCancel(QWidget* parent, const QString& title, const QString& text)
+bool QtDialogs::AskOkCancel(QWidget* parent, const QString& title, const QString& text,
+                            const QString& informative)
 {
     QMessageBox box(QMessageBox::Question, Title(title), text,
                     QMessageBox::Ok | QMessageBox::Cancel, parent);
     box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(informative);
     return box.exec() == QMessageBox::Ok;
 }
 

@@ -23,11 +23,14 @@ public:
     UserDialogs& operator=(const UserDialogs&) = delete;
     virtual ~UserDialogs() = default;
 
-    // A box with an OK button; an empty title shows the program's name.
-    virtual void Inform(QWidget* parent, const QString& title, const QString& text) = 0;
+    // A box with an OK button; an empty title shows the program's name. `informative` stands below
+    // the text, in smaller type.
+    virtual void Inform(QWidget* parent, const QString& title, const QString& text,
+                        const QString& informative = {}) = 0;
 
     // A question with OK and Cancel; true for OK.
-    virtual bool AskOkCancel(QWidget* parent, const QString& title, const QString& text) = 0;
+    virtual bool AskOkCancel(QWidget* parent, const QString& title, const QString& text,
+                             const QString& informative = {}) = 0;
 
     // Each returns the chosen file, or an empty text when the user cancels.
     virtual QString OpenFile(QWidget* parent, const FileRequest& request) = 0;
@@ -45,8 +48,10 @@ public:
 // The dialogs of the desktop.
 class QtDialogs : public UserDialogs {
 public:
-    void Inform(QWidget* parent, const QString& title, const QString& text) override;
-    bool AskOkCancel(QWidget* parent, const QString& title, const QString& text) override;
+    void Inform(QWidget* parent, const QString& title, const QString& text,
+                const QString& informative = {}) override;
+    bool AskOkCancel(QWidget* parent, const QString& title, const QString& text,
+                     const QString& informative = {}) override;
     QString OpenFile(QWidget* parent, const FileRequest& request) override;
     QString OpenOrCreateFile(QWidget* parent, const FileRequest& request) override;
     QString SaveFile(QWidget* parent, const FileRequest& request, const QString& suffix) override;

@@ -205,19 +205,6 @@ TEST_F(ExchangeTest, ReportsAFileThatCannotBeWritten)
     EXPECT_TRUE(SaveMarked("no/such/folder.QTH", database, Indexes{0}));
 }
 
-TEST_F(ExchangeTest, KnowsItsOwnFilesByAnyPathOrLink)
-{
-    PutFile("WORK.QTH", "x");
-    PutFile("K.CFG", "x");
-    fs::create_symlink("WORK.QTH", "symbolic");
-    fs::create_hard_link("K.CFG", "hard");
-    for (const char* name : {"WORK.QTH", "./WORK.QTH", "symbolic", "hard", "WORK.BAK"}) {
-        EXPECT_TRUE(IsOwnFile(name, "WORK.QTH", "K.CFG")) << name;
-    }
-    EXPECT_TRUE(IsOwnFile((folder.Path() / "WORK.BAK").string(), "WORK.QTH", "K.CFG"));
-    EXPECT_FALSE(IsOwnFile("other.QTH", "WORK.QTH", "K.CFG"));
-}
-
 TEST(WithDatabaseEnding, AppendsItOnlyToANameWithoutOne)
 {
     const struct {

@@ -16,18 +16,23 @@ public:
     struct Message {
         QString title;
         QString text;
+        QString informative = {};
 
         bool operator==(const Message&) const = default;
     };
 
-    void Inform(QWidget* /*parent*/, const QString& title, const QString& text) override
+    void Inform(QWidget* parent, const QString& title, const QString& text,
+                const QString& informative = {}) override
     {
-        said.push_back({title, text});
+        said.push_back({title, text, informative});
+        parents.push_back(parent);
     }
 
-    bool AskOkCancel(QWidget* /*parent*/, const QString& title, const QString& text) override
+    bool AskOkCancel(QWidget* parent, const QString& title, const QString& text,
+                     const QString& informative = {}) override
     {
-        said.push_back({title, text});
+        said.push_back({title, text, informative});
+        parents.push_back(parent);
         if (answers.empty()) {
             return false;
         }
@@ -59,9 +64,10 @@ public:
     }
 
     std::vector<Message> said;
-    std::vector<FileRequest> asked;  // what the file dialogs were asked for
-    std::deque<QString> files;       // what they return; cancelled when there is none left
-    std::vector<QString> opened;     // documents
+    std::vector<const QWidget*> parents;  // of the boxes in `said`
+    std::vector<FileRequest> asked;       // what the file dialogs were asked for
+    std::deque<QString> files;            // what they return; cancelled when there is none left
+    std::vector<QString> opened;          // documents
     bool canOpen = true;
     std::deque<bool> answers;  // true = OK; Cancel when there is none left
 

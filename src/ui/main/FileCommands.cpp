@@ -3,7 +3,7 @@
 #include <ctime>
 #include <vector>
 
-#include "app/StartUp.h"
+#include "app/OwnFiles.h"
 #include "base/FileBytes.h"
 #include "base/TimeStamp.h"
 #include "stations/Listing.h"
@@ -12,6 +12,7 @@
 #include "ui/FileNameText.h"
 #include "ui/UserDialogs.h"
 #include "ui/main/Display.h"
+#include "ui/main/MessageBar.h"
 #include "ui/main/StationListFrame.h"
 #include "ui/main/StationListView.h"
 
@@ -54,8 +55,9 @@ QString SkippedText(const stations::ImportResult& result)
 }  // namespace
 
 FileCommands::FileCommands(QWidget& window, app::AppState& state, UserDialogs& dialogs,
-                           StationListFrame& list, Display& notice)
-    : window_(window), state_(state), dialogs_(dialogs), list_(list), notice_(notice)
+                           StationListFrame& list, Display& notice, MessageBar& messages)
+    : window_(window), state_(state), dialogs_(dialogs), list_(list), notice_(notice),
+      messages_(messages)
 {
 }
 
@@ -181,7 +183,7 @@ bool FileCommands::ImportText()
 
 bool FileCommands::MayReplace(const std::string& name)
 {
-    if (!stations::IsOwnFile(name, state_.configuration.workingFile, app::kConfigurationName)) {
+    if (!app::IsOwnFile(state_, name)) {
         return true;
     }
     dialogs_.Inform(&window_, {},
@@ -194,8 +196,8 @@ void FileCommands::Tell(ExchangeResult result, const QString& file)
 {
     const QString name = u"Die Datei "_s + file;
     switch (result) {
-    case ExchangeResult::Done:
-    case ExchangeResult::Ignored: break;
+    case ExchangeResult::Done: break;
+    case ExchangeResult::Ignored: messages_.Tell(name + u" ist keine Stationsdatenbank."_s); break;
     case ExchangeResult::Damaged:
         dialogs_.Inform(&window_, {}, name + u" ist beschädigt und wird nicht gelesen!"_s);
         break;

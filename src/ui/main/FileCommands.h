@@ -14,6 +14,7 @@ class QWidget;
 namespace ui {
 
 class Display;
+class MessageBar;
 class StationListFrame;
 class UserDialogs;
 
@@ -21,7 +22,7 @@ class UserDialogs;
 class FileCommands {
 public:
     FileCommands(QWidget& window, app::AppState& state, UserDialogs& dialogs,
-                 StationListFrame& list, Display& notice);
+                 StationListFrame& list, Display& notice, MessageBar& messages);
 
     bool Open();           // MnuOpen: another database file becomes the working file
     bool Append();         // MnuAppend: its records come behind those of the database
@@ -42,6 +43,7 @@ private:
     UserDialogs& dialogs_;
     StationListFrame& list_;
     Display& notice_;
+    MessageBar& messages_;
 };
 
 }  // namespace ui

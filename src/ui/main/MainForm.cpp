@@ -21,6 +21,7 @@
 #include "ui/main/EditCommands.h"
 #include "ui/main/FileCommands.h"
 #include "ui/main/FormHeadings.h"
+#include "ui/main/MessageBar.h"
 #include "ui/main/PictureClip.h"
 #include "ui/main/ResultBlock.h"
 #include "ui/main/StationListFrame.h"
@@ -45,14 +46,21 @@ MainForm::MainForm(app::AppState& state, UserDialogs& dialogs)
     scroll->setFocusPolicy(Qt::NoFocus);
     QWidget* const contents = NewContents();
     scroll->setWidget(contents);
-    setCentralWidget(scroll);
+    messages_ = new MessageBar;
+    auto* const whole = new QWidget;
+    auto* const column = new QVBoxLayout(whole);
+    column->setContentsMargins({});
+    column->setSpacing(0);
+    column->addWidget(messages_);
+    column->addWidget(scroll, 1);
+    setCentralWidget(whole);
     constexpr int kUsualHeight = 660;  // shows a dozen lines of the list
     resize(QSize(contents->sizeHint().width(), kUsualHeight).boundedTo(screen()->availableSize()));
 
     fields_ = new CoordinateFields(state_, panel_, *headings_, *result_, this);
     configuration_ = new CfgForm(state_, this);
     notice_ = new Display(this);
-    files_ = std::make_unique<FileCommands>(*this, state_, dialogs_, *list_, *notice_);
+    files_ = std::make_unique<FileCommands>(*this, state_, dialogs_, *list_, *notice_, *messages_);
     edits_ = std::make_unique<EditCommands>(state_, *this, *list_);
     ConnectPanels();
     connect(fields_, &CoordinateFields::StationsChanged, this, &MainForm::Changed);
@@ -258,7 +266,7 @@ void MainForm::ShowMap()
 void MainForm::closeEvent(QCloseEvent* event)
 {
     S1S2_Update();
-    TellWriteError(this, dialogs_, app::SaveAtEnd(state_), app::kConfigurationName);
+    TellWriteError(this, dialogs_, app::SaveAtEnd(state_), state_.session.configurationName);
     event->accept();
     emit Ended();
 }

@@ -19,6 +19,7 @@ class Display;
 class EditCommands;
 class FileCommands;
 class FormHeadings;
+class MessageBar;
 class PictureClip;
 class ResultBlock;
 class StationListFrame;
@@ -83,6 +84,7 @@ private:
     CoordinateFields* fields_ = nullptr;
     CfgForm* configuration_ = nullptr;
     Display* notice_ = nullptr;
+    MessageBar* messages_ = nullptr;
     std::unique_ptr<FileCommands> files_;
     std::unique_ptr<EditCommands> edits_;
 };

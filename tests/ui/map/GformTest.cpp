@@ -252,7 +252,8 @@ TEST_F(GformTest, OwnMessageBoxIsNoActivation)
     // A real window takes the activation and gives it back, as a message box does.
     class Boxes : public ScriptedDialogs {
     public:
-        void Inform(QWidget* parent, const QString& title, const QString& text) override
+        void Inform(QWidget* parent, const QString& title, const QString& text,
+                    const QString& /*informative*/) override
         {
             ScriptedDialogs::Inform(parent, title, text);
             QDialog box(parent);
