@@ -24,9 +24,9 @@ int main(int argc, char** argv)
     ui::InstallGermanTexts();
     ui::QtDialogs dialogs;
 
+    const std::string ownFolder = ui::Native(QCoreApplication::applicationDirPath());
     const std::string folder = app::ProgramFolder(
-        ui::Native(QCoreApplication::applicationDirPath()),
-        ui::Native(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)));
+        ownFolder, ui::Native(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)));
     if (app::EnterFolder(folder)) {
         dialogs.Inform(nullptr, u"Kompasso Setup-Fehler"_s,
                        u"Der Ordner "_s + ui::Shown(folder)
@@ -35,6 +35,9 @@ int main(int argc, char** argv)
     }
 
     app::AppState state;
+    if (app::IsPassedOver(ownFolder, folder)) {
+        state.session.passedOverFolder = ownFolder;
+    }
     state.numberFormat = base::NumberFormat(QLocale::system().decimalPoint().toStdString());
     ui::MapImage mapImage;
     ui::MainForm window(state, dialogs);

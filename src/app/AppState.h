@@ -63,6 +63,9 @@ struct ListState {
 
 // Start and end of a run.
 struct SessionState {
+    // The program's own folder, when it is not the program directory although a user would look
+    // for his files there; else empty.
+    std::string passedOverFolder;
     // As they are spelt in the program directory.
     std::string configurationName = stations::kConfigurationName;
     std::string backupName = stations::kBackupName;

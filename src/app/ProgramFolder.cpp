@@ -3,6 +3,9 @@
 #include <filesystem>
 #include <unistd.h>
 
+#include "base/FileNames.h"
+#include "stations/Configuration.h"
+
 namespace app {
 
 namespace {
@@ -28,6 +31,17 @@ std::string ProgramFolder(const std::string& folderOfProgram, const std::string&
     const bool portable =
         access(folderOfProgram.c_str(), W_OK | X_OK) == 0 && !InBuildTree(folderOfProgram);
     return portable ? folderOfProgram : userFolder;
+}
+
+bool IsPassedOver(const std::string& folderOfProgram, const std::string& used)
+{
+    if (used == folderOfProgram || InBuildTree(folderOfProgram)) {
+        return false;
+    }
+    const bool installed =
+        folderOfProgram.starts_with("/usr/") || folderOfProgram.starts_with("/opt/");
+    return !installed || base::FindWithoutCase(folderOfProgram, stations::kConfigurationName)
+           || base::FindWithoutCase(folderOfProgram, stations::Configuration().workingFile);
 }
 
 std::error_code EnterFolder(const std::string& folder)

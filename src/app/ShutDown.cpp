@@ -14,7 +14,8 @@ std::error_code SaveAtEnd(AppState& state)
     configuration.station1 = state.shown.record[0];
     configuration.station2 = state.shown.record[1];
     return stations::WriteConfiguration(state.session.configurationName, configuration,
-                                        state.session.configurationBytes);
+                                        state.session.configurationBytes)
+        .error;
 }
 
 }  // namespace app

@@ -1,9 +1,12 @@
 #include "app/StartUp.h"
 
 #include <exception>
+#include <string_view>
 #include <utility>
 
 #include "app/DefaultStations.h"
+#include "base/CodePage.h"
+#include "base/FileNames.h"
 
 namespace app {
 
@@ -11,55 +14,194 @@ namespace {
 
 using stations::ConfigurationStatus;
 using stations::DatabaseStatus;
+using stations::OldBytes;
+using stations::Written;
+using Fault = SetupFault::Kind;
+using Notice = StartNotice::Kind;
 
-bool LoadConfiguration(AppState& state)
+// The name of a file in the current directory as it is spelt there; `name` when there is none.
+std::string SpellingFound(const std::string& name)
 {
-    stations::ConfigurationContents contents =
-        stations::ReadConfiguration(state.session.configurationName);
-    state.configuration = std::move(contents.configuration);
-    state.session.configurationBytes = contents.oldBytes;
-    switch (contents.status) {
-    case ConfigurationStatus::Read: return true;
-    case ConfigurationStatus::New:
-    case ConfigurationStatus::Foreign:
-        return !stations::WriteConfiguration(state.session.configurationName, state.configuration,
-                                             state.session.configurationBytes);
-    case ConfigurationStatus::Unreadable: break;
-    }
-    return false;
+    return base::NameExists(name) ? name : base::FindWithoutCase(".", name).value_or(name);
 }
 
-bool LoadDatabase(AppState& state)
+std::string LastName(const std::string& name, std::string_view separators)
 {
-    const std::string& name = state.configuration.workingFile;
-    stations::DatabaseContents contents = stations::ReadDatabase(name);
-    state.database = std::move(contents.database);
-    state.session.workingFileBytes = contents.oldBytes;
-    switch (contents.status) {
-    case DatabaseStatus::Complete: return true;
-    case DatabaseStatus::New:
-    case DatabaseStatus::Foreign:
-        return !stations::UpdateQTHFile(name, state.database, state.session.workingFileBytes);
-    case DatabaseStatus::BadCount:
-    case DatabaseStatus::CutShort:
-    case DatabaseStatus::Unreadable: break;
-    }
-    return false;
+    return name.substr(name.find_last_of(separators) + 1);  // npos + 1 is 0
 }
+
+// The steps of the start, one after the other, and what there is to say about them.
+class Loader {
+public:
+    explicit Loader(AppState& state) : state_(state), session_(state.session) {}
+
+    StartReport Run()
+    {
+        // Until they have been read, nobody knows what the two files hold.
+        session_.configurationBytes = OldBytes::Unknown;
+        session_.workingFileBytes = OldBytes::Unknown;
+        try {
+            LoadConfiguration();
+            if (!report_.fault) {
+                LoadDatabase();
+            }
+            if (!report_.fault) {
+                WriteBackup();
+            }
+        } catch (const std::exception&) {  // out of memory
+            Break(Fault::NoMemory, state_.configuration.workingFile);
+        }
+        return std::move(report_);
+    }
+
+private:
+    void LoadConfiguration()
+    {
+        session_.configurationName = SpellingFound(stations::kConfigurationName);
+        session_.backupName = SpellingFound(stations::kBackupName);
+        const std::string& name = session_.configurationName;
+        stations::ConfigurationContents contents = stations::ReadConfiguration(name);
+        state_.configuration = std::move(contents.configuration);
+        session_.configurationBytes = contents.oldBytes;
+        configured_ = contents.status != ConfigurationStatus::New;
+        switch (contents.status) {
+        case ConfigurationStatus::Read:
+            if (name != stations::kConfigurationName) {
+                Note({.kind = Notice::ConfigurationFound,
+                      .file = stations::kConfigurationName,
+                      .other = name,
+                      .keptAs = {}});
+            }
+            return;
+        case ConfigurationStatus::New:
+        case ConfigurationStatus::Foreign: NewConfiguration(); return;
+        case ConfigurationStatus::NoFolder: Break(Fault::NoFolder, name); return;
+        case ConfigurationStatus::Unreadable: Break(Fault::Unreadable, name); return;
+        }
+    }
+
+    void NewConfiguration()
+    {
+        const std::string& name = session_.configurationName;
+        const Written written =
+            stations::WriteConfiguration(name, state_.configuration, session_.configurationBytes);
+        if (!NoteFailure(written, name, session_.configurationBytes) && !written.keptAs.empty()) {
+            Note({.kind = Notice::ForeignConfiguration,
+                  .file = name,
+                  .other = {},
+                  .keptAs = written.keptAs});
+        }
+    }
+
+    // Settles which file the configuration means, see LoadAtStartUp.
+    void FindWorkingFile()
+    {
+        const std::string stored = state_.configuration.workingFile;
+        const bool ownPath =
+            stored.find('\\') == std::string::npos && stored.find('/') != std::string::npos;
+        const std::string last = LastName(stored, "/\\");
+        if (last.empty() || ownPath || base::NameExists(stored)) {
+            return;
+        }
+        const std::optional<std::string> found = base::FindWithoutCase(".", last);
+        std::string name = found ? *found : base::IsUtf8(last) ? last : base::FromCodePage(last);
+        if (name == stored || !stations::FitsConfiguration(name)) {
+            return;
+        }
+        state_.configuration.workingFile = std::move(name);
+        storedName_ = stored;
+        if (found) {
+            Note({.kind = Notice::WorkingFileFound, .file = stored, .other = *found, .keptAs = {}});
+        }
+    }
+
+    void LoadDatabase()
+    {
+        FindWorkingFile();
+        const std::string& name = state_.configuration.workingFile;
+        if (name.empty()) {
+            Break(Fault::NoName, session_.configurationName);
+            return;
+        }
+        stations::DatabaseContents contents = stations::ReadDatabase(name);
+        state_.database = std::move(contents.database);
+        session_.workingFileBytes = contents.oldBytes;
+        switch (contents.status) {
+        case DatabaseStatus::Complete:
+            if (contents.oldBytes == OldBytes::Unknown) {
+                Note({.kind = Notice::BytesBehindRecords, .file = name, .other = {}, .keptAs = {}});
+            }
+            return;
+        case DatabaseStatus::Missing: NewWorkingFile(Notice::NewWorkingFile); return;
+        case DatabaseStatus::Empty: NewWorkingFile(Notice::EmptyWorkingFile); return;
+        case DatabaseStatus::Foreign: NewWorkingFile(Notice::ForeignWorkingFile); return;
+        case DatabaseStatus::NoFolder: Break(Fault::NoFolder, name); return;
+        case DatabaseStatus::BadCount: Break(Fault::BadCount, name); return;
+        case DatabaseStatus::CutShort: Break(Fault::CutShort, name); return;
+        case DatabaseStatus::Unreadable: Break(Fault::Unreadable, name); return;
+        }
+    }
+
+    void NewWorkingFile(Notice kind)
+    {
+        const std::string& name = state_.configuration.workingFile;
+        const Written written = stations::UpdateQTHFile(
+            name, state_.database, session_.workingFileBytes, session_.backupName);
+        // Nothing is missing in a folder that the program has not been in before.
+        if (NoteFailure(written, name, session_.workingFileBytes)
+            || (kind == Notice::NewWorkingFile && !configured_)) {
+            return;
+        }
+        Note({.kind = kind, .file = name, .other = storedName_, .keptAs = written.keptAs});
+    }
+
+    void WriteBackup()
+    {
+        OldBytes ignored = OldBytes::Known;
+        const Written written =
+            stations::WriteBackup(state_.database, session_.workingFileBytes, session_.backupName);
+        if (!NoteFailure(written, session_.backupName, ignored) && !written.backupKeptAs.empty()) {
+            Note({.kind = Notice::BackupReplaced,
+                  .file = session_.backupName,
+                  .other = {},
+                  .keptAs = written.backupKeptAs});
+        }
+    }
+
+    // True for a failed write, after which nobody knows what stands under that name.
+    bool NoteFailure(const Written& written, const std::string& file, OldBytes& oldBytes)
+    {
+        if (written.error) {
+            report_.failedWrites.push_back(file);
+            oldBytes = OldBytes::Unknown;
+        }
+        return static_cast<bool>(written.error);
+    }
+
+    void Break(Fault kind, const std::string& file)
+    {
+        SetupFault fault = {.kind = kind, .file = file, .sameNameHere = {}};
+        if (kind == Fault::NoFolder) {
+            const std::string last = LastName(file, "/");
+            fault.sameNameHere = base::FindWithoutCase(".", last).value_or("");
+        }
+        report_.fault = std::move(fault);
+    }
+
+    void Note(StartNotice notice) { report_.notices.push_back(std::move(notice)); }
+
+    AppState& state_;
+    SessionState& session_;
+    StartReport report_;
+    bool configured_ = false;  // there was a configuration, whatever it held
+    std::string storedName_;   // of the working file, when another is used in its place
+};
 
 }  // namespace
 
-bool LoadAtStartUp(AppState& state)
+StartReport LoadAtStartUp(AppState& state)
 {
-    // Until they have been read, nobody knows what the two files hold.
-    state.session.configurationBytes = stations::OldBytes::Unknown;
-    state.session.workingFileBytes = stations::OldBytes::Unknown;
-    try {
-        return LoadConfiguration(state) && LoadDatabase(state)
-               && !stations::WriteBackup(state.database);
-    } catch (const std::exception&) {  // out of memory
-        return false;
-    }
+    return Loader(state).Run();
 }
 
 StartStation StationAtStartUp(const stations::Configuration& configuration, int station)

@@ -149,7 +149,9 @@ InputFile::InputFile(const std::string& name)
     }
     descriptor_ = open(name.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     if (descriptor_ < 0) {
-        status_ = errno == ENOENT ? FileStatus::Missing : FileStatus::Unreadable;
+        status_ = errno != ENOENT                             ? FileStatus::Unreadable
+                  : FolderExists(FolderOf(FollowLinks(name))) ? FileStatus::Missing
+                                                              : FileStatus::NoFolder;
         return;
     }
     struct stat status = {};

@@ -19,6 +19,7 @@ namespace base {
 enum class FileStatus {
     Readable,
     Missing,
+    NoFolder,    // not there, nor the folder it would lie in: whether it exists is not known
     Unreadable,  // refused, not a regular file, broken off by an error, or too large
 };
 

@@ -2,7 +2,9 @@
 
 #pragma once
 
+#include <optional>
 #include <string>
+#include <string_view>
 #include <system_error>
 
 namespace base {
@@ -13,6 +15,20 @@ std::string FollowLinks(const std::string& name);
 
 // The folder part of `name`, "." when it has none, "/" for a name in the root folder.
 std::string FolderOf(const std::string& name);
+
+bool FolderExists(const std::string& folder);
+
+// True for any entry of a folder, a link without a target included.
+bool NameExists(const std::string& name);
+
+// `text` with its letters folded to one case, for comparing names that another system wrote: those
+// that Windows-1252 has in both cases; no locale has a say. What is not UTF-8 is read as
+// Windows-1252.
+std::string FoldCase(std::string_view text);
+
+// Name, without a folder, of a regular file in `folder` that is spelt like `name` but for the case
+// of its letters: of several the one that was changed last.
+std::optional<std::string> FindWithoutCase(const std::string& folder, const std::string& name);
 
 // Makes a rename or a new name in `folder` durable.
 std::error_code SyncFolder(const std::string& folder);

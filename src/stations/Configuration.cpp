@@ -25,7 +25,9 @@ void GetRecord(base::ByteReader& reader, StationRecord& record)
 void GetFileName(base::ByteReader& reader, std::string& name)
 {
     reader.GetText(name, kFileNameLength);
-    name.erase(name.find_last_not_of(' ') + 1);  // npos + 1 is 0
+    // Another system may have filled the rest up with zeros.
+    constexpr std::string_view kFilling(" \0", 2);
+    name.erase(name.find_last_not_of(kFilling) + 1);  // npos + 1 is 0
 }
 
 }  // namespace
@@ -115,6 +117,10 @@ ConfigurationContents ReadConfiguration(const std::string& name)
     const base::FileContents file = base::ReadFile(name);
     switch (file.status) {
     case base::FileStatus::Missing: return {};
+    case base::FileStatus::NoFolder:
+        return {.status = ConfigurationStatus::NoFolder,
+                .configuration = {},
+                .oldBytes = OldBytes::Unknown};
     case base::FileStatus::Unreadable:
         return {.status = ConfigurationStatus::Unreadable,
                 .configuration = {},
@@ -124,19 +130,20 @@ ConfigurationContents ReadConfiguration(const std::string& name)
     return UnpackConfiguration(file.bytes);
 }
 
-std::error_code WriteConfiguration(const std::string& name, const Configuration& configuration,
-                                   OldBytes& oldBytes)
+Written WriteConfiguration(const std::string& name, const Configuration& configuration,
+                           OldBytes& oldBytes)
 {
+    Written written;
     if (oldBytes == OldBytes::Unknown) {
-        if (const std::error_code error = base::SetAside(name)) {
-            return error;
-        }
+        written.error = base::SetAside(name, written.keptAs);
     }
-    const std::error_code error = base::WriteFile(name, PackConfiguration(configuration));
-    if (!error) {
+    if (!written.error) {
+        written.error = base::WriteFile(name, PackConfiguration(configuration));
+    }
+    if (!written.error) {
         oldBytes = OldBytes::Known;
     }
-    return error;
+    return written;
 }
 
 }  // namespace stations

@@ -60,7 +60,7 @@ struct Configuration {
     bool optimisedOutput = true;
     bool showStation1 = true;
     bool showStation2 = true;
-    // The bytes of the file system, without trailing blanks, at most 512.
+    // The bytes of the file system, without blanks and zeros at the end, at most 512.
     std::string workingFile = "WORK.QTH";
     std::string textSetting2;
     std::string textSetting3;
@@ -79,6 +79,7 @@ enum class ConfigurationStatus {
     Read,
     New,         // missing or without a single byte
     Foreign,     // not marked as a configuration
+    NoFolder,    // a link into a folder that is not there
     Unreadable,  // exists, but cannot be read
 };
 
@@ -96,7 +97,7 @@ ConfigurationContents ReadConfiguration(const std::string& name);
 
 // Writes the configuration file. Bytes that are not known are set aside first; when that fails
 // nothing is written. Success makes the bytes known.
-std::error_code WriteConfiguration(const std::string& name, const Configuration& configuration,
-                                   OldBytes& oldBytes);
+Written WriteConfiguration(const std::string& name, const Configuration& configuration,
+                           OldBytes& oldBytes);
 
 }  // namespace stations

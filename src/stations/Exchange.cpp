@@ -13,7 +13,9 @@ ExchangeResult ResultOf(DatabaseStatus status)
 {
     switch (status) {
     case DatabaseStatus::Complete: return ExchangeResult::Done;
-    case DatabaseStatus::New:
+    case DatabaseStatus::Missing:
+    case DatabaseStatus::Empty:
+    case DatabaseStatus::NoFolder:
     case DatabaseStatus::Foreign: return ExchangeResult::Ignored;
     case DatabaseStatus::BadCount:
     case DatabaseStatus::CutShort: return ExchangeResult::Damaged;

@@ -79,9 +79,11 @@ bool MayHoldRecords(const std::string& name)
     return !contents.database.Empty() || contents.oldBytes == OldBytes::Unknown;
 }
 
-std::error_code SetBackupAside()
+bool Holds(const std::string& name, const StationDatabase& database)
 {
-    return MayHoldRecords(kBackupName) ? base::SetAside(kBackupName) : std::error_code();
+    const DatabaseContents contents = ReadDatabase(name);
+    return contents.status == DatabaseStatus::Complete && contents.oldBytes == OldBytes::Known
+           && std::ranges::equal(contents.database.Records(), database.Records());
 }
 
 }  // namespace
@@ -90,11 +92,16 @@ DatabaseContents ReadDatabase(const std::string& name)
 {
     base::InputFile file(name);
     const bool readable = file.Status() == base::FileStatus::Readable;
-    if (file.Status() == base::FileStatus::Missing || (readable && file.Size() == 0)) {
-        return {};
-    }
     DatabaseContents contents;
+    if (file.Status() == base::FileStatus::Missing || (readable && file.Size() == 0)) {
+        contents.status = readable ? DatabaseStatus::Empty : DatabaseStatus::Missing;
+        return contents;
+    }
     contents.oldBytes = OldBytes::Unknown;
+    if (file.Status() == base::FileStatus::NoFolder) {
+        contents.status = DatabaseStatus::NoFolder;
+        return contents;
+    }
     if (readable && file.Size() < kHeaderSize) {
         contents.status = DatabaseStatus::Foreign;
         return contents;
@@ -124,32 +131,36 @@ std::error_code WriteDatabase(const std::string& name, const StationDatabase& da
                                   BytesOf(std::span<const StationRecord>(spare))});
 }
 
-std::error_code UpdateQTHFile(const std::string& name, const StationDatabase& database,
-                              OldBytes& oldBytes)
+Written UpdateQTHFile(const std::string& name, const StationDatabase& database, OldBytes& oldBytes,
+                      const std::string& backupName)
 {
+    Written written;
     if (oldBytes == OldBytes::Unknown) {
-        if (const std::error_code error = base::SetAside(name)) {
-            return error;
-        }
-        if (const std::error_code error = SetBackupAside()) {
-            return error;
+        written.error = base::SetAside(name, written.keptAs);
+        if (!written.error && MayHoldRecords(backupName)) {
+            written.error = base::SetAside(backupName, written.backupKeptAs);
         }
     }
-    const std::error_code error = WriteDatabase(name, database);
-    if (!error) {
+    if (!written.error) {
+        written.error = WriteDatabase(name, database);
+    }
+    if (!written.error) {
         oldBytes = OldBytes::Known;
     }
-    return error;
+    return written;
 }
 
-std::error_code WriteBackup(const StationDatabase& database)
+Written WriteBackup(const StationDatabase& database, OldBytes source, const std::string& backupName)
 {
-    if (database.Empty()) {
-        if (const std::error_code error = SetBackupAside()) {
-            return error;
-        }
+    Written written;
+    if ((database.Empty() || source == OldBytes::Unknown) && MayHoldRecords(backupName)
+        && !Holds(backupName, database)) {
+        written.error = base::SetAside(backupName, written.backupKeptAs);
     }
-    return WriteDatabase(kBackupName, database);
+    if (!written.error) {
+        written.error = WriteDatabase(backupName, database);
+    }
+    return written;
 }
 
 }  // namespace stations

@@ -23,10 +23,12 @@ inline constexpr const char* kBackupName = "WORK.BAK";
 
 enum class DatabaseStatus {
     Complete,
-    New,         // missing or without a single byte
+    Missing,
+    Empty,       // without a single byte
     Foreign,     // not marked as a database file
     BadCount,    // the number of records is negative or above 25000
     CutShort,    // ends before its last record does
+    NoFolder,    // the folder it would lie in is not there: whether it exists is not known
     Unreadable,  // exists, but cannot be read
 };
 
@@ -36,8 +38,19 @@ enum class OldBytes {
     Unknown,  // possibly something else: it is set aside before it is replaced
 };
 
+// What became of a write.
+struct Written {
+    std::error_code error;
+    // Names under which old bytes are kept now; empty when nothing had to be set aside.
+    std::string keptAs;
+    std::string backupKeptAs;
+
+    // True when there is an error, as for the error alone.
+    explicit operator bool() const { return static_cast<bool>(error); }
+};
+
 struct DatabaseContents {
-    DatabaseStatus status = DatabaseStatus::New;
+    DatabaseStatus status = DatabaseStatus::Missing;
     StationDatabase database;  // whole records only; those before the damage when cut short
     OldBytes oldBytes = OldBytes::Known;  // unknown unless every byte is accounted for
 };
@@ -50,11 +63,13 @@ std::error_code WriteDatabase(const std::string& name, const StationDatabase& da
 
 // Writes the working file. Bytes that are not known are set aside first, and with them a backup
 // that holds records; when that fails nothing is written. Success makes the bytes known.
-std::error_code UpdateQTHFile(const std::string& name, const StationDatabase& database,
-                              OldBytes& oldBytes);
+Written UpdateQTHFile(const std::string& name, const StationDatabase& database, OldBytes& oldBytes,
+                      const std::string& backupName = kBackupName);
 
-// Writes the backup of the state found at start-up. An empty database does not replace a backup
-// that holds records without setting it aside.
-std::error_code WriteBackup(const StationDatabase& database);
+// Writes the backup of the state found at start-up, read from a file whose old bytes are `source`.
+// A backup that holds records, and other bytes than the new one, is set aside before an empty
+// database or one from a file that was not accounted for to its last byte replaces it.
+Written WriteBackup(const StationDatabase& database, OldBytes source = OldBytes::Known,
+                    const std::string& backupName = kBackupName);
 
 }  // namespace stations

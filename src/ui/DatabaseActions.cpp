@@ -8,23 +8,24 @@ namespace ui {
 using namespace Qt::StringLiterals;
 
 void TellWriteError(QWidget* parent, UserDialogs& dialogs, std::error_code error,
-                    const std::string& fileName)
+                    const std::string& fileName, const QString& informative)
 {
     if (!error) {
         return;
     }
     dialogs.Inform(parent, u"Schreibfehler"_s,
                    u"Das Schreiben auf die Datei "_s + Shown(fileName)
-                       + u" schlug fehl!\nBitte Schreibschutz überprüfen und ggf. rücksetzen!"_s);
+                       + u" schlug fehl!\nBitte Schreibschutz überprüfen und ggf. rücksetzen!"_s,
+                   informative);
 }
 
 bool UpdateQTHFile(QWidget* parent, app::AppState& state, UserDialogs& dialogs)
 {
     const std::string& name = state.configuration.workingFile;
-    const std::error_code error =
-        stations::UpdateQTHFile(name, state.database, state.session.workingFileBytes);
-    TellWriteError(parent, dialogs, error, name);
-    return !error;
+    const stations::Written written = stations::UpdateQTHFile(
+        name, state.database, state.session.workingFileBytes, state.session.backupName);
+    TellWriteError(parent, dialogs, written.error, name);
+    return !written.error;
 }
 
 void TellTooManyRecords(QWidget* parent, UserDialogs& dialogs)

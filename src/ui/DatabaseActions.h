@@ -5,6 +5,8 @@
 #include <string>
 #include <system_error>
 
+#include <QString>
+
 #include "app/AppState.h"
 
 class QWidget;
@@ -13,9 +15,10 @@ namespace ui {
 
 class UserDialogs;
 
-// The message about a file that could not be written; nothing without an error.
+// The message about a file that could not be written, with more below it if there is more to say;
+// nothing without an error.
 void TellWriteError(QWidget* parent, UserDialogs& dialogs, std::error_code error,
-                    const std::string& fileName);
+                    const std::string& fileName, const QString& informative = {});
 
 // Rewrites the working file. The database in memory stays as it is when that fails.
 bool UpdateQTHFile(QWidget* parent, app::AppState& state, UserDialogs& dialogs);

@@ -70,6 +70,17 @@ TEST_F(ProgramFolderTest, IsTheUsersFolderForAProgramInItsBuildTree)
         << "above the tree";
 }
 
+TEST_F(ProgramFolderTest, IsPassedOverWhereAUserWouldLookForHisFiles)
+{
+    const std::string stick = NewFolder("stick");
+    EXPECT_TRUE(IsPassedOver(stick, "/home/user/data"));
+    EXPECT_FALSE(IsPassedOver(stick, stick));
+    EXPECT_FALSE(IsPassedOver("/usr/bin", "/home/user/data")) << "installed";
+    const std::string build = NewFolder("build");
+    PutFile(build + "/CMakeCache.txt", "");
+    EXPECT_FALSE(IsPassedOver(build, "/home/user/data"));
+}
+
 TEST_F(ProgramFolderTest, EnterFolderCreatesItAndMakesItTheCurrentOne)
 {
     const fs::path target = folder.Path() / "share" / "Kompasso";

@@ -16,7 +16,7 @@ class ShutDownTest : public testing::Test {
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(LoadAtStartUp(state));
+        ASSERT_FALSE(LoadAtStartUp(state).fault);
         state.shown.record = {stations::MakeRecord({"ONE"}), stations::MakeRecord({"TWO"})};
     }
 
@@ -42,7 +42,7 @@ TEST_F(ShutDownTest, TheNextStartShowsTheStoredStations)
 {
     ASSERT_FALSE(SaveAtEnd(state));
     AppState next;
-    ASSERT_TRUE(LoadAtStartUp(next));
+    ASSERT_FALSE(LoadAtStartUp(next).fault);
     EXPECT_EQ(StationAtStartUp(next.configuration, 0).texts.callsign, "ONE");
     EXPECT_EQ(StationAtStartUp(next.configuration, 1).texts.callsign, "TWO");
 }
@@ -70,7 +70,7 @@ TEST_F(ShutDownTest, SetsBytesAsideThatWereNotReadWhole)
     AppState other;
     const std::string longer = ConfigurationFile() + "more";
     PutFile("KOMP_LOC.CFG", longer);
-    ASSERT_TRUE(LoadAtStartUp(other));
+    ASSERT_FALSE(LoadAtStartUp(other).fault);
     EXPECT_FALSE(std::filesystem::exists("KOMP_LOC.CFG.ALT")) << "nothing is replaced yet";
     ASSERT_FALSE(SaveAtEnd(other));
     EXPECT_EQ(GetFile("KOMP_LOC.CFG.ALT"), longer);

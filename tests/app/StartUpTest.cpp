@@ -37,13 +37,18 @@ protected:
                                         state.session.workingFileBytes);
     }
 
+    static bool Succeeded(const StartReport& report)
+    {
+        return !report.fault && report.failedWrites.empty();
+    }
+
     TemporaryFolder folder;
     AppState state;
 };
 
 TEST_F(StartUpTest, TheFirstStartInAnEmptyFolderMakesThreeFiles)
 {
-    EXPECT_TRUE(LoadAtStartUp(state));
+    EXPECT_TRUE(Succeeded(LoadAtStartUp(state)));
     EXPECT_EQ(folder.Names(), (Names{"KOMP_LOC.CFG", "WORK.BAK", "WORK.QTH"}));
     EXPECT_EQ(GetFile("KOMP_LOC.CFG").size(), 2172U);
     EXPECT_EQ(GetFile("KOMP_LOC.CFG"), ConfigurationFile());
@@ -61,7 +66,7 @@ TEST_F(StartUpTest, WholeFilesAreReadAndBackedUpAndNotWritten)
     PutFile("WORK.BAK", DatabaseFile({kTwo}));
     const ino_t configuration = FileNumber("KOMP_LOC.CFG");
     const ino_t workingFile = FileNumber("WORK.QTH");
-    EXPECT_TRUE(LoadAtStartUp(state));
+    EXPECT_TRUE(Succeeded(LoadAtStartUp(state)));
     EXPECT_EQ(state.configuration.station1Index, 0);
     EXPECT_EQ(state.configuration.station1, kTwo);
     EXPECT_EQ(stations::Callsigns(state.database), "ONE TWO ");
@@ -77,7 +82,7 @@ TEST_F(StartUpTest, TheConfigurationNamesTheWorkingFile)
     PutFile("KOMP_LOC.CFG", ConfigurationFile({.workingFile = "runde/Relais.QTH"}));
     PutFile("runde/Relais.QTH", DatabaseFile({kOne}));
     PutFile("WORK.QTH", "somebody's");
-    EXPECT_TRUE(LoadAtStartUp(state));
+    EXPECT_TRUE(Succeeded(LoadAtStartUp(state)));
     EXPECT_EQ(stations::Callsigns(state.database), "ONE ");
     EXPECT_EQ(GetFile("WORK.BAK"), DatabaseFile({kOne})) << "in the program directory";
     EXPECT_EQ(GetFile("WORK.QTH"), "somebody's");
@@ -89,7 +94,7 @@ TEST_F(StartUpTest, FilesWithAWrongMarkAreReplacedAndSetAside)
     const std::string database = DatabaseHeader(1, 171295) + RecordBytes(kOne) + SpareRecord();
     PutFile("KOMP_LOC.CFG", configuration);
     PutFile("WORK.QTH", database);
-    EXPECT_TRUE(LoadAtStartUp(state));
+    EXPECT_TRUE(Succeeded(LoadAtStartUp(state)));
     EXPECT_EQ(GetFile("KOMP_LOC.CFG"), ConfigurationFile());
     EXPECT_EQ(GetFile("WORK.QTH"), DatabaseFile({}));
     EXPECT_EQ(GetFile("KOMP_LOC.CFG.ALT"), configuration);
@@ -101,7 +106,7 @@ TEST_F(StartUpTest, AFileSetAsideNeverReplacesAnother)
 {
     PutFile("KOMP_LOC.CFG", "second");
     PutFile("KOMP_LOC.CFG.ALT", "first");
-    EXPECT_TRUE(LoadAtStartUp(state));
+    EXPECT_TRUE(Succeeded(LoadAtStartUp(state)));
     EXPECT_EQ(GetFile("KOMP_LOC.CFG.ALT"), "first");
     EXPECT_EQ(GetFile("KOMP_LOC.CFG.ALT2"), "second");
 }
@@ -111,7 +116,7 @@ TEST_F(StartUpTest, FilesWithoutAByteAreNewOnes)
     PutFile("KOMP_LOC.CFG", "");
     PutFile("WORK.QTH", "");
     PutFile("WORK.BAK", "");
-    EXPECT_TRUE(LoadAtStartUp(state));
+    EXPECT_TRUE(Succeeded(LoadAtStartUp(state)));
     EXPECT_EQ(GetFile("KOMP_LOC.CFG"), ConfigurationFile());
     EXPECT_EQ(GetFile("WORK.QTH"), DatabaseFile({}));
     EXPECT_EQ(folder.Names(), (Names{"KOMP_LOC.CFG", "WORK.BAK", "WORK.QTH"}));
@@ -140,7 +145,7 @@ TEST_F(StartUpTest, ADamagedWorkingFileFailsAndIsKept)
         state = AppState();
         PutFile("WORK.QTH", c.bytes);
         PutFile("WORK.BAK", DatabaseFile({kTwo}));
-        EXPECT_FALSE(LoadAtStartUp(state));
+        EXPECT_TRUE(LoadAtStartUp(state).fault);
         EXPECT_EQ(stations::Callsigns(state.database), c.callsigns);
         EXPECT_EQ(GetFile("WORK.QTH"), c.bytes) << "nothing is written over it";
         EXPECT_EQ(GetFile("WORK.BAK"), DatabaseFile({kTwo})) << "no backup of a damaged state";
@@ -157,7 +162,7 @@ TEST_F(StartUpTest, ADamagedWorkingFileFailsAndIsKept)
 TEST_F(StartUpTest, AFileWithoutTheSpareRecordIsWhole)
 {
     PutFile("WORK.QTH", DatabaseHeader(1) + RecordBytes(kOne));
-    EXPECT_TRUE(LoadAtStartUp(state));
+    EXPECT_TRUE(Succeeded(LoadAtStartUp(state)));
     EXPECT_EQ(stations::Callsigns(state.database), "ONE ");
     EXPECT_EQ(GetFile("WORK.BAK"), DatabaseFile({kOne}));
 }
@@ -166,7 +171,7 @@ TEST_F(StartUpTest, BytesBehindTheSpareRecordAreNotReadButSetAside)
 {
     const std::string bytes = DatabaseFile({kOne}) + RecordBytes(kTwo);
     PutFile("WORK.QTH", bytes);
-    EXPECT_TRUE(LoadAtStartUp(state));
+    EXPECT_TRUE(Succeeded(LoadAtStartUp(state)));
     EXPECT_EQ(stations::Callsigns(state.database), "ONE ");
     EXPECT_TRUE(UpdateWorkingFile());
     EXPECT_EQ(GetFile("WORK.QTH"), DatabaseFile({kOne}));
@@ -176,7 +181,7 @@ TEST_F(StartUpTest, BytesBehindTheSpareRecordAreNotReadButSetAside)
 TEST_F(StartUpTest, AsManyRecordsAsTheDatabaseHoldsAreRead)
 {
     ASSERT_FALSE(stations::WriteDatabase("WORK.QTH", stations::CountedDatabase(25000)));
-    EXPECT_TRUE(LoadAtStartUp(state));
+    EXPECT_TRUE(Succeeded(LoadAtStartUp(state)));
     ASSERT_EQ(state.database.Count(), 25000U);
     EXPECT_EQ(state.database[24999].Text(stations::Field::Callsign), "24999");
     EXPECT_EQ(GetFile("WORK.BAK"), GetFile("WORK.QTH"));
@@ -185,7 +190,7 @@ TEST_F(StartUpTest, AsManyRecordsAsTheDatabaseHoldsAreRead)
 TEST_F(StartUpTest, AnUnreadableWorkingFileFailsWithNoRecords)
 {
     fs::create_directory("WORK.QTH");
-    EXPECT_FALSE(LoadAtStartUp(state));
+    EXPECT_TRUE(LoadAtStartUp(state).fault);
     EXPECT_TRUE(state.database.Empty());
     EXPECT_FALSE(UpdateWorkingFile()) << "what cannot be set aside is not replaced";
     EXPECT_TRUE(fs::is_directory("WORK.QTH"));
@@ -196,7 +201,7 @@ TEST_F(StartUpTest, AnUnreadableConfigurationLeavesTheRestUnread)
     fs::create_directory("KOMP_LOC.CFG");
     PutFile("WORK.QTH", DatabaseFile({kOne}));
     PutFile("WORK.BAK", DatabaseFile({kTwo}));
-    EXPECT_FALSE(LoadAtStartUp(state));
+    EXPECT_TRUE(LoadAtStartUp(state).fault);
     EXPECT_EQ(state.configuration, stations::Configuration());
     EXPECT_TRUE(state.database.Empty());
     EXPECT_EQ(GetFile("WORK.QTH"), DatabaseFile({kOne}));
@@ -211,29 +216,67 @@ TEST_F(StartUpTest, AnUnreadableConfigurationLeavesTheRestUnread)
 TEST_F(StartUpTest, ABackupWithRecordsIsSetAsideBeforeAnEmptyOneReplacesIt)
 {
     PutFile("WORK.BAK", DatabaseFile({kOne}));
-    EXPECT_TRUE(LoadAtStartUp(state));
+    EXPECT_TRUE(Succeeded(LoadAtStartUp(state)));
     EXPECT_EQ(GetFile("WORK.BAK"), DatabaseFile({}));
     EXPECT_EQ(GetFile("WORK.BAK.ALT"), DatabaseFile({kOne}));
 }
 
-TEST_F(StartUpTest, AnyFileThatCannotBeWrittenFails)
+TEST_F(StartUpTest, AWriteThatFailsIsReportedAndTheStartGoesOn)
 {
     PutFile("KOMP_LOC.CFG", ConfigurationFile());
     PutFile("WORK.QTH", DatabaseFile({kOne}));
     fs::create_directory("WORK.BAK");
-    EXPECT_FALSE(LoadAtStartUp(state));
-    EXPECT_EQ(stations::Callsigns(state.database), "ONE ") << "read before that";
+    StartReport report = LoadAtStartUp(state);
+    EXPECT_FALSE(report.fault);
+    EXPECT_EQ(report.failedWrites, Names{"WORK.BAK"});
+    EXPECT_EQ(stations::Callsigns(state.database), "ONE ");
 
     PutFile("KOMP_LOC.CFG", "foreign");
     fs::permissions("KOMP_LOC.CFG", fs::perms(0444));
-    EXPECT_FALSE(LoadAtStartUp(state));
+    report = LoadAtStartUp(state);
+    EXPECT_FALSE(report.fault);
+    EXPECT_EQ(report.failedWrites, (Names{"KOMP_LOC.CFG", "WORK.BAK"}));
     EXPECT_EQ(GetFile("KOMP_LOC.CFG"), "foreign");
+    EXPECT_EQ(stations::Callsigns(state.database), "ONE ") << "read nevertheless";
+    EXPECT_EQ(state.session.configurationBytes, stations::OldBytes::Unknown);
+}
+
+TEST_F(StartUpTest, AFolderThatIsNotThereIsAFaultThatNamesTheFileHere)
+{
+    PutFile("KOMP_LOC.CFG", ConfigurationFile({.workingFile = "stick/relais.QTH"}));
+    const StartReport report = LoadAtStartUp(state);
+    EXPECT_EQ(report.fault, (SetupFault{SetupFault::Kind::NoFolder, "stick/relais.QTH", ""}));
+    EXPECT_EQ(state.session.workingFileBytes, stations::OldBytes::Unknown);
+    PutFile("Relais.qth", DatabaseFile({kOne}));
+    EXPECT_EQ(LoadAtStartUp(state).fault,
+              (SetupFault{SetupFault::Kind::NoFolder, "stick/relais.QTH", "Relais.qth"}));
+}
+
+TEST_F(StartUpTest, FaultsTellWhatIsWrongWithWhichFile)
+{
+    const struct {
+        std::string bytes;
+        SetupFault::Kind kind;
+    } cases[] = {
+        {DatabaseHeader(-1), SetupFault::Kind::BadCount},
+        {DatabaseHeader(25001), SetupFault::Kind::BadCount},
+        {DatabaseHeader(1), SetupFault::Kind::CutShort},
+    };
+    for (const auto& c : cases) {
+        PutFile("WORK.QTH", c.bytes);
+        EXPECT_EQ(LoadAtStartUp(state).fault, (SetupFault{c.kind, "WORK.QTH", ""}));
+    }
+    fs::remove("KOMP_LOC.CFG");
+    fs::create_directory("KOMP_LOC.CFG");
+    EXPECT_EQ(LoadAtStartUp(state).fault,
+              (SetupFault{SetupFault::Kind::Unreadable, "KOMP_LOC.CFG", ""}));
 }
 
 TEST_F(StartUpTest, ABlankWorkingFileNameFails)
 {
     PutFile("KOMP_LOC.CFG", ConfigurationFile({.workingFile = ""}));
-    EXPECT_FALSE(LoadAtStartUp(state));
+    EXPECT_EQ(LoadAtStartUp(state).fault,
+              (SetupFault{SetupFault::Kind::NoName, "KOMP_LOC.CFG", ""}));
     EXPECT_FALSE(fs::exists("WORK.BAK"));
 }
 

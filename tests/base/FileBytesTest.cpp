@@ -30,6 +30,14 @@ protected:
     TemporaryFolder folder;
 };
 
+TEST_F(FileBytesTest, AFileInAMissingFolderIsNotKnownToBeMissing)
+{
+    EXPECT_EQ(ReadFile("missing").status, FileStatus::Missing);
+    EXPECT_EQ(ReadFile("gone/file").status, FileStatus::NoFolder);
+    fs::create_symlink("gone/file", "link");
+    EXPECT_EQ(ReadFile("link").status, FileStatus::NoFolder);
+}
+
 TEST_F(FileBytesTest, ReadsAWholeFile)
 {
     PutFile("a", std::string_view("x\0y\n", 4));

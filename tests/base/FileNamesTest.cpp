@@ -87,6 +87,43 @@ TEST_F(FileNamesTest, SetsTheSameBytesAsideOnlyOnce)
     EXPECT_EQ(TemporaryFolder::Names(), (Names{"a", "a.ALT"}));
 }
 
+TEST_F(FileNamesTest, FoldsTheLettersThatTheCodePageHasInBothCases)
+{
+    EXPECT_EQ(FoldCase("WORK.QTH"), "work.qth");
+    EXPECT_EQ(FoldCase("MÜNCHEN × ŠŽŒŸ ß÷"), "münchen × šžœÿ ß÷");
+    EXPECT_EQ(FoldCase("M\xDCNCHEN"), "münchen") << "not UTF-8";
+    EXPECT_EQ(FoldCase(""), "");
+}
+
+TEST_F(FileNamesTest, FindsRegularFilesWithoutCase)
+{
+    EXPECT_EQ(FindWithoutCase(".", "WORK.QTH"), std::nullopt);
+    fs::create_directory("work.qth");
+    EXPECT_EQ(FindWithoutCase(".", "WORK.QTH"), std::nullopt);
+    PutFile("Work.Qth", "");
+    EXPECT_EQ(FindWithoutCase(".", "WORK.QTH"), "Work.Qth");
+    EXPECT_EQ(FindWithoutCase("gone", "WORK.QTH"), std::nullopt);
+}
+
+TEST_F(FileNamesTest, TellsWhatIsThere)
+{
+    fs::create_symlink("nowhere", "link");
+    EXPECT_TRUE(NameExists("link"));
+    EXPECT_FALSE(NameExists("nowhere"));
+    EXPECT_TRUE(FolderExists("."));
+    EXPECT_FALSE(FolderExists("link"));
+}
+
+TEST_F(FileNamesTest, TellsUnderWhichNameBytesAreKept)
+{
+    PutFile("a", "x");
+    std::string copy = "old";
+    EXPECT_FALSE(SetAside("a", copy));
+    EXPECT_EQ(copy, "a.ALT");
+    EXPECT_FALSE(SetAside("missing", copy));
+    EXPECT_EQ(copy, "");
+}
+
 TEST_F(FileNamesTest, HasNothingToSetAsideOfAMissingOrEmptyFile)
 {
     PutFile("empty", "");

@@ -108,7 +108,7 @@ TEST_F(WorkingFileTest, TellsWhatIsWrongWithAFile)
          OldBytes::Known},
         {"bytes behind the spare", HeaderOf(kTwoRecords) + two + kSpare + 'x', 2,
          DatabaseStatus::Complete, OldBytes::Unknown},
-        {"no byte at all", "", 0, DatabaseStatus::New, OldBytes::Known},
+        {"no byte at all", "", 0, DatabaseStatus::Empty, OldBytes::Known},
         {"half a header", HeaderOf(kTwoRecords).substr(0, 19), 0, DatabaseStatus::Foreign,
          OldBytes::Unknown},
         {"foreign mark", HeaderOf(kTwoRecords, "MARK") + two, 0, DatabaseStatus::Foreign,
@@ -133,7 +133,7 @@ TEST_F(WorkingFileTest, TellsWhatIsWrongWithAFile)
         EXPECT_EQ(contents.database.Count(), c.records);
         EXPECT_EQ(contents.oldBytes, c.oldBytes);
     }
-    EXPECT_EQ(ReadDatabase("missing").status, DatabaseStatus::New);
+    EXPECT_EQ(ReadDatabase("missing").status, DatabaseStatus::Missing);
     fs::create_directory("folder");
     EXPECT_EQ(ReadDatabase("folder").status, DatabaseStatus::Unreadable);
     EXPECT_EQ(ReadDatabase("folder").oldBytes, OldBytes::Unknown);

@@ -3,6 +3,7 @@
 #include <ctime>
 
 #include <QCloseEvent>
+#include <QDir>
 #include <QGridLayout>
 #include <QPushButton>
 #include <QScreen>
@@ -14,6 +15,7 @@
 #include "base/TimeStamp.h"
 #include "ui/Controls.h"
 #include "ui/DatabaseActions.h"
+#include "ui/FileNameText.h"
 #include "ui/UserDialogs.h"
 #include "ui/main/CfgForm.h"
 #include "ui/main/CoordinateFields.h"
@@ -24,6 +26,7 @@
 #include "ui/main/MessageBar.h"
 #include "ui/main/PictureClip.h"
 #include "ui/main/ResultBlock.h"
+#include "ui/main/StartTexts.h"
 #include "ui/main/StationListFrame.h"
 #include "ui/main/StationListView.h"
 #include "ui/main/StationPanel.h"
@@ -138,9 +141,10 @@ void MainForm::DrawPictures()
 
 bool MainForm::Start()
 {
-    if (!app::LoadAtStartUp(state_)
-        && dialogs_.AskOkCancel(this, u"Kompasso Setup-Fehler"_s,
-                                u"Setup-Fehler, bitte Work.* und *.cfg löschen!\nBeenden?"_s)) {
+    if (!state_.session.passedOverFolder.empty()) {
+        messages_->Tell(PassedOverText(state_.session.passedOverFolder, QDir::currentPath()));
+    }
+    if (!TellStart(app::LoadAtStartUp(state_))) {
         return false;
     }
     fields_->Set_GMS_String();
@@ -149,6 +153,30 @@ bool MainForm::Start()
         SetStation(station, shown.texts, shown.position);
     }
     list_->List1Load();
+    return true;
+}
+
+bool MainForm::TellStart(const app::StartReport& report)
+{
+    if (!report.failedWrites.empty()) {
+        QStringList others;
+        for (std::size_t i = 1; i < report.failedWrites.size(); ++i) {
+            others << Shown(report.failedWrites[i]);
+        }
+        // One box: the cause is probably the same.
+        TellWriteError(this, dialogs_, std::make_error_code(std::errc::io_error),
+                       report.failedWrites.front(),
+                       others.isEmpty() ? QString() : u"Ebenso: "_s + others.join(u", "_s));
+    }
+    if (report.fault
+        && dialogs_.AskOkCancel(this, u"Kompasso Setup-Fehler"_s,
+                                u"Setup-Fehler, bitte Work.* und *.cfg löschen!\nBeenden?"_s,
+                                FaultText(*report.fault))) {
+        return false;
+    }
+    for (const app::StartNotice& notice : report.notices) {
+        messages_->Tell(NoticeText(notice));
+    }
     return true;
 }
 

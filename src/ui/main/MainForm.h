@@ -11,6 +11,10 @@
 #include "app/AppState.h"
 #include "app/MainWindowPort.h"
 
+namespace app {
+struct StartReport;
+}
+
 namespace ui {
 
 class CfgForm;
@@ -33,8 +37,9 @@ public:
     MainForm(app::AppState& state, UserDialogs& dialogs);
     ~MainForm() override;
 
-    // Loads configuration and database and fills the window. False when the user, asked about a
-    // file that cannot be read, wants the program to end; nothing more is written then.
+    // Loads configuration and database, tells what there is to tell and fills the window. False
+    // when the user, asked about a file that cannot be read, wants the program to end; nothing more
+    // is written then.
     bool Start();
 
     void SetStation(int station, const stations::StationTexts& texts,
@@ -58,6 +63,9 @@ protected:
 
 private:
     struct MenuItem;
+
+    // False when the user wants the program to end.
+    bool TellStart(const app::StartReport& report);
 
     QWidget* NewContents();
     void ConnectPanels();

@@ -17,8 +17,15 @@ using Names = std::vector<std::string>;
 
 namespace fs = std::filesystem;
 
-const Message kSetupError = {u"Kompasso Setup-Fehler"_s,
-                             u"Setup-Fehler, bitte Work.* und *.cfg löschen!\nBeenden?"_s};
+// What the box says, whatever the fault.
+Message SetupError(const char* file, const char* reason)
+{
+    return {u"Kompasso Setup-Fehler"_s,
+            u"Setup-Fehler, bitte Work.* und *.cfg löschen!\nBeenden?"_s,
+            u"Datei: %1\n%2\nAn der Datei wurde nichts geändert, und es muss nichts gelöscht "
+            u"werden. „Abbrechen“ macht mit dem weiter, was lesbar war."_s.arg(
+                QString::fromUtf8(file), QString::fromUtf8(reason))};
+}
 
 const stations::StationRecord kOne = stations::MakeRecord({"ONE"}, {48.3125, 11.625});
 const stations::StationRecord kTwo = stations::MakeRecord({"TWO"}, {-33.5, 151.25});
@@ -40,19 +47,23 @@ const struct Damage {
     const char* what;
     void (*make)();
     const char* records;  // that are held after "Cancel"
+    const char* file;
+    const char* reason;
 } kDamages[] = {
-    {"negative count", [] { PutDatabase(app::DatabaseHeader(-1) + app::RecordBytes(kOne)); }, ""},
+    {"negative count", [] { PutDatabase(app::DatabaseHeader(-1) + app::RecordBytes(kOne)); }, "",
+     "WORK.QTH", "Die Zahl der Einträge in ihrem Kopf ist unmöglich."},
     {"count above 25000", [] { PutDatabase(app::DatabaseHeader(25001) + app::RecordBytes(kOne)); },
-     ""},
+     "", "WORK.QTH", "Die Zahl der Einträge in ihrem Kopf ist unmöglich."},
     {"cut short",
      [] {
          PutDatabase(app::DatabaseHeader(2) + app::RecordBytes(kOne)
                      + app::RecordBytes(kTwo).substr(1));
      },
-     "ONE "},
-    {"unreadable configuration", [] { PutObstacle("KOMP_LOC.CFG"); }, ""},
-    {"unreadable working file", [] { PutObstacle("WORK.QTH"); }, ""},
-    {"backup that cannot be written", [] { PutObstacle("WORK.BAK"); }, "TWO "},
+     "ONE ", "WORK.QTH", "Sie endet vor ihrem letzten Eintrag."},
+    {"unreadable configuration", [] { PutObstacle("KOMP_LOC.CFG"); }, "", "KOMP_LOC.CFG",
+     "Sie lässt sich nicht lesen."},
+    {"unreadable working file", [] { PutObstacle("WORK.QTH"); }, "", "WORK.QTH",
+     "Sie lässt sich nicht lesen."},
 };
 
 // A start with files of which one is damaged, in a program directory of its own.
@@ -87,7 +98,7 @@ TEST_F(SetupErrorTest, OkEndsTheProgramWithNothingWritten)
             ProgramRun run;
             run.dialogs.answers = {true};
             EXPECT_FALSE(run.Start());
-            EXPECT_EQ(run.dialogs.said, Messages{kSetupError});
+            EXPECT_EQ(run.dialogs.said, Messages{SetupError(damage.file, damage.reason)});
             EXPECT_FALSE(run.window.isVisible());
         }
         EXPECT_EQ(folder.Names(), (Names{"KOMP_LOC.CFG", "WORK.BAK", "WORK.QTH"}));
@@ -105,7 +116,7 @@ TEST_F(SetupErrorTest, CancelGoesOnWithWhatWasRead)
         ProgramRun run;
         run.dialogs.answers = {false};
         ASSERT_TRUE(run.Start());
-        EXPECT_EQ(run.dialogs.said, Messages{kSetupError});
+        EXPECT_EQ(run.dialogs.said, Messages{SetupError(damage.file, damage.reason)});
         EXPECT_EQ(stations::Callsigns(run.state.database), damage.records);
         EXPECT_EQ(run.Find<QListView>("List1")->model()->rowCount(),
                   static_cast<int>(run.state.database.Count()));

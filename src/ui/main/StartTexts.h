@@ -1,0 +1,20 @@
+// What the start of a run has to tell, in German.
+
+#pragma once
+
+#include <QString>
+
+#include "app/StartUp.h"
+
+namespace ui {
+
+// Which file, what is wrong with it, and that it is as it was.
+QString FaultText(const app::SetupFault& fault);
+
+// One line.
+QString NoticeText(const app::StartNotice& notice);
+
+// `used` is the data folder that is used in place of the program's own.
+QString PassedOverText(const std::string& ownFolder, const QString& used);
+
+}  // namespace ui
