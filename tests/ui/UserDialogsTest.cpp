@@ -1,83 +1,29 @@
 #include "ui/UserDialogs.h"
 
-#include <functional>
-
-#include <QApplication>
 #include <QComboBox>
 #include <QDesktopServices>
 #include <QDialogButtonBox>
-#include <QElapsedTimer>
 #include <QFileDialog>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QTest>
 #include <QTextBrowser>
-#include <QTimer>
 #include <QUrl>
 
 #include <gtest/gtest.h>
 
 #include "TemporaryFolder.h"
 #include "ui/GermanTexts.h"
+#include "ui/ModalSteps.h"
 
 namespace ui {
 namespace {
 
 using namespace Qt::StringLiterals;
 
-// The real message boxes and file dialogs. Each step of the user waits for the next modal window.
-class UserDialogsTest : public testing::Test {
+// The real message boxes and file dialogs.
+class UserDialogsTest : public testing::Test, protected ModalSteps {
 protected:
-    using Step = std::function<void(QWidget& window)>;
-
     static void SetUpTestSuite() { InstallGermanTexts(); }
 
-    void SetUp() override
-    {
-        QObject::connect(&waiting, &QTimer::timeout, [this] { TakeStep(); });
-        waiting.start(std::chrono::milliseconds(10));
-    }
-
-    void TearDown() override { EXPECT_TRUE(steps.empty()) << "a window did not appear"; }
-
-    void TakeStep()
-    {
-        QWidget* const window = QApplication::activeModalWidget();
-        if (window == nullptr) {
-            return;
-        }
-        const bool seen = window->property("seen").toBool();
-        if (!seen && !steps.empty()) {
-            window->setProperty("seen", true);
-            idle.start();
-            const Step step = steps.front();
-            steps.erase(steps.begin());
-            // Outside this call, during which the timer would stand still: a step may open a
-            // window of its own and wait for it.
-            QTimer::singleShot(0, window, [step, window] { step(*window); });
-        } else if (!seen || idle.hasExpired(kPatience)) {
-            ADD_FAILURE() << "unexpected window " << window->windowTitle().toStdString();
-            window->close();
-        }
-    }
-
-    void Then(Step step) { steps.push_back(std::move(step)); }
-
-    // Types a name into the file dialog and presses Return.
-    static void Choose(QWidget& window, const QString& name)
-    {
-        auto* const field = window.findChild<QLineEdit*>(u"fileNameEdit"_s);
-        ASSERT_NE(field, nullptr);
-        field->clear();
-        QTest::keyClicks(field, name);
-        QTest::keyClick(field, Qt::Key_Return);
-    }
-
-    static void Press(QWidget& box, QMessageBox::StandardButton button)
-    {
-        QTest::mouseClick(dynamic_cast<QMessageBox&>(box).button(button), Qt::LeftButton);
-    }
+    void TearDown() override { EXPECT_TRUE(AllTaken()) << "a window did not appear"; }
 
     QString InFolder(const char* name) const
     {
@@ -86,10 +32,6 @@ protected:
 
     TemporaryFolder folder;
     QtDialogs dialogs;
-    QTimer waiting;
-    std::vector<Step> steps;
-    static constexpr qint64 kPatience = 5000;  // ms
-    QElapsedTimer idle;
     const FileRequest request{.title = u"QTH Datenbank öffnen"_s,
                               .filter = u"QTH-Dateien (*.qth)|*.QTH|alle Dateien (*.*)|*.*"_s,
                               .folder = {}};
