@@ -1,6 +1,5 @@
 #include "stations/Exchange.h"
 
-#include <filesystem>
 #include <utility>
 
 #include "stations/Configuration.h"
@@ -65,11 +64,6 @@ std::error_code SaveMarked(const std::string& name, const StationDatabase& datab
         selection.Append(database[index]);
     }
     return WriteDatabase(name, selection);
-}
-
-std::string WithDatabaseEnding(const std::string& name)
-{
-    return std::filesystem::path(name).has_extension() ? name : name + ".QTH";
 }
 
 }  // namespace stations

@@ -41,7 +41,4 @@ ExchangeResult AppendFile(const std::string& name, StationDatabase& database);
 std::error_code SaveMarked(const std::string& name, const StationDatabase& database,
                            std::span<const std::size_t> marked);
 
-// `name` with ".QTH" behind it when its last part has no ending.
-std::string WithDatabaseEnding(const std::string& name);
-
 }  // namespace stations

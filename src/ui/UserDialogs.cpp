@@ -3,8 +3,12 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QUrl>
+
+#include "ui/FileNameText.h"
 
 namespace ui {
 
@@ -12,8 +16,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Qt's own dialog, not the desktop's: only there does the question about overwriting come after the
-// ending is appended, and only there may a name be opened that does not exist yet.
+// Qt's own dialog, not the desktop's: only there can the ending be appended before the question
+// about overwriting, and only there may a name be opened that does not exist yet.
 void Prepare(QFileDialog& dialog, const FileRequest& request)
 {
     dialog.setObjectName(u"CommonDialog1"_s);
@@ -35,6 +39,30 @@ QString Title(const QString& title)
 {
     return title.isEmpty() ? u"Kompasso"_s : title;
 }
+
+// Qt's own default ending leaves out names like ".hidden".
+class SaveDialog : public QFileDialog {
+public:
+    SaveDialog(QWidget* parent, const QString& ending) : QFileDialog(parent), ending_(ending) {}
+
+protected:
+    // The ending is in the name before Qt asks about overwriting.
+    void accept() override
+    {
+        const QFileInfo chosen(selectedFiles().value(0));
+        const QString file = WithEnding(chosen.filePath(), ending_);
+        auto* const field = findChild<QLineEdit*>(u"fileNameEdit"_s);
+        if (field != nullptr && !chosen.fileName().isEmpty() && !chosen.isDir()
+            && file != chosen.filePath()) {
+            const QString folder = directory().absolutePath() + u'/';
+            field->setText(file.startsWith(folder) ? file.mid(folder.size()) : file);
+        }
+        QFileDialog::accept();
+    }
+
+private:
+    QString ending_;
+};
 
 }  // namespace
 
@@ -75,11 +103,10 @@ QString QtDialogs::OpenOrCreateFile(QWidget* parent, const FileRequest& request)
 
 QString QtDialogs::SaveFile(QWidget* parent, const FileRequest& request, const QString& suffix)
 {
-    QFileDialog dialog(parent);
+    SaveDialog dialog(parent, suffix);
     Prepare(dialog, request);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
-    dialog.setDefaultSuffix(suffix);
     return Chosen(dialog);
 }
 

@@ -36,8 +36,8 @@ public:
     virtual QString OpenFile(QWidget* parent, const FileRequest& request) = 0;
     // Like OpenFile, but the file need not exist yet.
     virtual QString OpenOrCreateFile(QWidget* parent, const FileRequest& request) = 0;
-    // Appends "." and `suffix` to a name without an ending and asks before an existing file is
-    // chosen.
+    // Appends "." and `suffix` to a name without an ending, then asks before an existing file is
+    // chosen: what is returned is the very name to write.
     virtual QString SaveFile(QWidget* parent, const FileRequest& request,
                              const QString& suffix) = 0;
 

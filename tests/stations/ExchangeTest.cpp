@@ -205,20 +205,5 @@ TEST_F(ExchangeTest, ReportsAFileThatCannotBeWritten)
     EXPECT_TRUE(SaveMarked("no/such/folder.QTH", database, Indexes{0}));
 }
 
-TEST(WithDatabaseEnding, AppendsItOnlyToANameWithoutOne)
-{
-    const struct {
-        const char* name;
-        const char* expected;
-    } cases[] = {
-        {"stations", "stations.QTH"},         {"stations.qth", "stations.qth"},
-        {"a.b/stations", "a.b/stations.QTH"}, {"stations.txt", "stations.txt"},
-        {"a/.hidden", "a/.hidden.QTH"},
-    };
-    for (const auto& c : cases) {
-        EXPECT_EQ(WithDatabaseEnding(c.name), c.expected);
-    }
-}
-
 }  // namespace
 }  // namespace stations

@@ -7,6 +7,7 @@
 
 #include <QString>
 
+#include "ui/FileNameText.h"
 #include "ui/UserDialogs.h"
 
 namespace ui {
@@ -52,9 +53,10 @@ public:
     }
 
     QString SaveFile(QWidget* /*parent*/, const FileRequest& request,
-                     const QString& /*suffix*/) override
+                     const QString& suffix) override
     {
-        return NextFile(request);
+        const QString file = NextFile(request);
+        return file.isEmpty() ? file : WithEnding(file, suffix);
     }
 
     bool OpenDocument(const QString& file) override

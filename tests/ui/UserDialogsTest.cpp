@@ -155,6 +155,75 @@ TEST_F(UserDialogsTest, SaveFileAsksBeforeTheFinalNameReplacesAFile)
     EXPECT_EQ(GetFile("alt.QTH"), "x") << "the dialog itself writes nothing";
 }
 
+TEST_F(UserDialogsTest, SaveFileAskedAboutANameThatIsNotTheOneItWrites)
+{
+    std::filesystem::create_symlink("ziel", "verweis");
+    const struct {
+        const char* typed;
+        const char* written;
+    } cases[] = {
+        {".hidden", ".hidden.QTH"},   {"name.", "name."},
+        {"DL.0.ABC", "DL.0.ABC"},     {"blank ", "blank .QTH"},
+        {".QTH", ".QTH.QTH"},         {"verweis", "verweis.QTH"},
+        {"\"quoted\"", "quoted.QTH"}, {"sub/.hidden", "sub/.hidden.QTH"},
+    };
+    std::filesystem::create_directory("sub");
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.typed);
+        const QString typed = QString::fromUtf8(c.typed);
+        Then([&](QWidget& window) { Choose(window, typed); });
+        EXPECT_EQ(dialogs.SaveFile(nullptr, request, u"QTH"_s), InFolder(c.written)) << "new";
+
+        PutFile(c.written, "x");
+        QWidget* dialog = nullptr;
+        Then([&](QWidget& window) {
+            dialog = &window;
+            Choose(window, typed);
+        });
+        Then([&](QWidget& window) {
+            EXPECT_EQ(dynamic_cast<QMessageBox&>(window).text(),
+                      u"Die Datei %1 existiert bereits.\nSoll sie überschrieben werden?"_s.arg(
+                          QFileInfo(QString::fromUtf8(c.written)).fileName()));
+            QTimer::singleShot(0, dialog, [&] { QTest::keyClick(dialog, Qt::Key_Escape); });
+            Press(window, QMessageBox::No);
+        });
+        EXPECT_EQ(dialogs.SaveFile(nullptr, request, u"QTH"_s), QString()) << "old, refused";
+        Then([&](QWidget& window) { Choose(window, typed); });
+        Then([](QWidget& window) { Press(window, QMessageBox::Yes); });
+        EXPECT_EQ(dialogs.SaveFile(nullptr, request, u"QTH"_s), InFolder(c.written)) << "old";
+    }
+}
+
+TEST_F(UserDialogsTest, SaveFileAsksNothingAboutAFileThatItsEndingLeavesAlone)
+{
+    PutFile(".hidden", "x");
+    Then([](QWidget& window) { Choose(window, u".hidden"_s); });
+    EXPECT_EQ(dialogs.SaveFile(nullptr, request, u"QTH"_s), InFolder(".hidden.QTH"));
+}
+
+TEST_F(UserDialogsTest, SaveFileAppendsTheEndingToANameInAnotherFolder)
+{
+    const TemporaryFolder other;
+    const QString typed = QString::fromStdString((other.Path() / ".hidden").string());
+    Then([&](QWidget& window) { Choose(window, typed); });
+    EXPECT_EQ(
+        dialogs.SaveFile(nullptr, {.title = {}, .filter = {}, .folder = InFolder(".")}, u"QTH"_s),
+        typed + u".QTH"_s);
+}
+
+TEST_F(UserDialogsTest, SaveFileEntersAFolderInsteadOfAppendingTheEnding)
+{
+    std::filesystem::create_directory(".folder");
+    QWidget* dialog = nullptr;
+    Then([&](QWidget& window) {
+        dialog = &window;
+        Choose(window, u".folder"_s);
+        EXPECT_EQ(dynamic_cast<QFileDialog&>(window).directory().path(), InFolder(".folder"));
+        Choose(window, u"a"_s);
+    });
+    EXPECT_EQ(dialogs.SaveFile(nullptr, request, u"QTH"_s), InFolder(".folder/a.QTH"));
+}
+
 TEST_F(UserDialogsTest, AFileDialogOffersTheFiltersAndSpeaksGerman)
 {
     Then([](QWidget& window) {

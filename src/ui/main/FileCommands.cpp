@@ -121,7 +121,7 @@ bool FileCommands::ExportMarked(const std::vector<std::size_t>& marked)
     if (file.isEmpty()) {
         return false;
     }
-    const std::string name = stations::WithDatabaseEnding(Native(file));
+    const std::string name = Native(file);
     if (!MayReplace(name)) {
         return false;
     }
