@@ -3,6 +3,7 @@
 #include <ctime>
 #include <vector>
 
+#include "app/FileKind.h"
 #include "app/OwnFiles.h"
 #include "base/FileBytes.h"
 #include "base/TimeStamp.h"
@@ -138,7 +139,7 @@ void FileCommands::WriteListing()
         return;
     }
     const std::string name = Native(file);
-    if (!MayReplace(name)) {
+    if (!MayReplace(name) || !MayListInto(name)) {
         return;
     }
     const std::string text =
@@ -186,10 +187,29 @@ bool FileCommands::MayReplace(const std::string& name)
     if (!app::IsOwnFile(state_, name)) {
         return true;
     }
-    dialogs_.Inform(&window_, {},
-                    u"Die Datei "_s + Shown(name)
-                        + u" benutzt das Programm selbst, sie wird nicht überschrieben!"_s);
+    TellNotReplaced(name, u"benutzt das Programm selbst"_s);
     return false;
+}
+
+bool FileCommands::MayListInto(const std::string& name)
+{
+    switch (app::KindOf(name)) {
+    case app::FileKind::Missing: return true;
+    case app::FileKind::Other:
+        return dialogs_.AskOkCancel(&window_, u"Listing"_s, u"Datei existiert bereits. Löschen?"_s);
+    case app::FileKind::Unreadable: TellNotReplaced(name, u"lässt sich nicht lesen"_s); break;
+    case app::FileKind::Database: TellNotReplaced(name, u"ist eine Stationsdatenbank"_s); break;
+    case app::FileKind::Adjustment: TellNotReplaced(name, u"ist eine Justagedatei"_s); break;
+    case app::FileKind::Configuration: TellNotReplaced(name, u"ist eine Konfiguration"_s); break;
+    }
+    return false;
+}
+
+void FileCommands::TellNotReplaced(const std::string& name, const QString& reason)
+{
+    dialogs_.Inform(&window_, {},
+                    u"Die Datei "_s + Shown(name) + u' ' + reason
+                        + u", sie wird nicht überschrieben!"_s);
 }
 
 void FileCommands::Tell(ExchangeResult result, const QString& file)
