@@ -1,7 +1,11 @@
 #include "stations/Exchange.h"
 
+#include <algorithm>
+#include <filesystem>
+#include <optional>
 #include <utility>
 
+#include "base/FileNames.h"
 #include "stations/Configuration.h"
 
 namespace stations {
@@ -23,7 +27,30 @@ ExchangeResult ResultOf(DatabaseStatus status)
     return ExchangeResult::Unreadable;
 }
 
+// What follows the part of `name` that is the current directory, by any path or link.
+std::optional<std::string> BelowCurrentFolder(const std::string& name)
+{
+    for (std::size_t slash = name.rfind('/'); slash != std::string::npos && slash > 0;
+         slash = name.rfind('/', slash - 1)) {
+        if (base::SameFile(name.substr(0, slash), ".")) {
+            return name.substr(std::min(name.find_first_not_of('/', slash), name.size()));
+        }
+    }
+    return std::nullopt;
+}
+
 }  // namespace
+
+std::string NameToKeep(const std::string& name)
+{
+    if (const std::optional<std::string> below = BelowCurrentFolder(name)) {
+        return *below;
+    }
+    const std::filesystem::path path(name);
+    std::error_code error;
+    const std::filesystem::path folder = std::filesystem::canonical(path.parent_path(), error);
+    return error ? name : BelowCurrentFolder((folder / path.filename()).string()).value_or(name);
+}
 
 ExchangeResult Open(const std::string& name, KeptDatabase kept)
 {
@@ -32,11 +59,12 @@ ExchangeResult Open(const std::string& name, KeptDatabase kept)
     if (result != ExchangeResult::Done) {
         return result;
     }
-    if (!FitsConfiguration(name)) {
+    std::string nameToKeep = NameToKeep(name);
+    if (!FitsConfiguration(nameToKeep)) {
         return ExchangeResult::NameTooLong;
     }
     kept.database = std::move(contents.database);
-    kept.workingFile = name;
+    kept.workingFile = std::move(nameToKeep);
     kept.oldBytes = contents.oldBytes;
     return ExchangeResult::Done;
 }

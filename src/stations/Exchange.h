@@ -15,7 +15,7 @@ namespace stations {
 // Everything but Done leaves the database as it was.
 enum class ExchangeResult {
     Done,
-    Ignored,      // missing, empty or not a database file: ends without a message
+    Ignored,      // missing, empty or not a database file
     Damaged,      // a database file that does not hold the records it names
     Unreadable,   // exists, but cannot be read
     TooMany,      // the records would not fit
@@ -28,6 +28,10 @@ struct KeptDatabase {
     std::string& workingFile;  // name, as in the configuration
     OldBytes& oldBytes;
 };
+
+// How the configuration names a file: relative to the program directory, which is the current one,
+// when it lies in it or below it, so that a folder which is moved as a whole finds it again.
+std::string NameToKeep(const std::string& name);
 
 // Makes `name` the working file and its records the database.
 ExchangeResult Open(const std::string& name, KeptDatabase kept);

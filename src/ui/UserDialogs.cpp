@@ -1,5 +1,7 @@
 #include "ui/UserDialogs.h"
 
+#include <utility>
+
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
@@ -43,7 +45,7 @@ QString Title(const QString& title)
 // Qt's own default ending leaves out names like ".hidden".
 class SaveDialog : public QFileDialog {
 public:
-    SaveDialog(QWidget* parent, const QString& ending) : QFileDialog(parent), ending_(ending) {}
+    SaveDialog(QWidget* parent, QString ending) : QFileDialog(parent), ending_(std::move(ending)) {}
 
 protected:
     // The ending is in the name before Qt asks about overwriting.

@@ -146,6 +146,33 @@ TEST_F(ExchangeTest, DoesNotOpenAFileWhoseNameTheConfigurationCannotHold)
     EXPECT_EQ(AppendFile(fits + 'x', database), ExchangeResult::Done) << "its name is not kept";
 }
 
+TEST_F(ExchangeTest, NamesAFileInTheProgramDirectoryWithoutItsPath)
+{
+    fs::create_directory("sub");
+    const std::string here = folder.Path().string();
+    const std::string parent = folder.Path().parent_path().string();
+    const struct {
+        std::string name;
+        std::string kept;
+    } cases[] = {
+        {"a.QTH", "a.QTH"},
+        {"./a.QTH", "a.QTH"},
+        {here + "//a.QTH", "a.QTH"},
+        {"sub/../a.QTH", "a.QTH"},
+        {"sub/a.QTH", "sub/a.QTH"},
+        {here + "/sub/./a.QTH", "sub/./a.QTH"},
+        {"../" + folder.Path().filename().string() + "/a.QTH", "a.QTH"},
+        {parent + "/a.QTH", parent + "/a.QTH"},
+        {"../a.QTH", "../a.QTH"},
+        {"/a.QTH", "/a.QTH"},
+        {here + "/", ""},
+        {"/no such folder/a.QTH", "/no such folder/a.QTH"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(NameToKeep(c.name), c.kept) << c.name;
+    }
+}
+
 TEST_F(ExchangeTest, AppendsRecordsBehindTheOthers)
 {
     EXPECT_FALSE(WriteDatabase("other.QTH", CountedDatabase(2)));

@@ -3,9 +3,12 @@
 #include <ctime>
 #include <vector>
 
+#include <QFileInfo>
+
 #include "app/FileKind.h"
 #include "app/OwnFiles.h"
 #include "base/FileBytes.h"
+#include "base/FileNames.h"
 #include "base/TimeStamp.h"
 #include "stations/Listing.h"
 #include "stations/TextImport.h"
@@ -40,6 +43,15 @@ QString ReasonText(stations::SkipReason reason)
     return {};
 }
 
+QString WhyIgnored(const QString& file)
+{
+    const QFileInfo info(file);
+    if (!info.exists()) {
+        return u" gibt es nicht."_s;
+    }
+    return info.size() == 0 ? u" ist leer."_s : u" ist keine Stationsdatenbank."_s;
+}
+
 QString SkippedText(const stations::ImportResult& result)
 {
     QString text = result.skipped == 1 ? u"1 Zeile wurde übersprungen:"_s
@@ -67,6 +79,13 @@ bool FileCommands::Open()
     const QString file = dialogs_.OpenFile(
         &window_, {.title = u"QTH Datenbank öffnen"_s, .filter = kDatabaseFilter, .folder = {}});
     if (file.isEmpty()) {
+        return false;
+    }
+    if (base::SameFile(Native(file), state_.session.backupName)) {
+        dialogs_.Inform(&window_, {},
+                        u"Die Datei "_s + file
+                            + u" ist die Sicherung vom letzten Start, sie wird nicht zur "
+                              u"Arbeitsdatei!\n„Anfügen“ holt ihre Einträge zurück."_s);
         return false;
     }
     const ExchangeResult result =
@@ -217,7 +236,7 @@ void FileCommands::Tell(ExchangeResult result, const QString& file)
     const QString name = u"Die Datei "_s + file;
     switch (result) {
     case ExchangeResult::Done: break;
-    case ExchangeResult::Ignored: messages_.Tell(name + u" ist keine Stationsdatenbank."_s); break;
+    case ExchangeResult::Ignored: messages_.Tell(name + WhyIgnored(file)); break;
     case ExchangeResult::Damaged:
         dialogs_.Inform(&window_, {}, name + u" ist beschädigt und wird nicht gelesen!"_s);
         break;

@@ -53,13 +53,13 @@ TEST_F(FileCommandsTest, OpenMakesTheFileTheWorkingFile)
     Choose("MnuOpen");
     EXPECT_EQ(Callsigns(), (Names{"QQ9X", "QQ9Y"}));
     EXPECT_EQ(Lines(), 2);
-    EXPECT_EQ(state.configuration.workingFile, Path("other.QTH"));
+    EXPECT_EQ(state.configuration.workingFile, "other.QTH");
     QTest::mouseClick(Find<QPushButton>("SA_0"), Qt::LeftButton);
     EXPECT_EQ(Bytes(Path("WORK.QTH")), before);
     EXPECT_EQ(stations::ReadDatabase(Path("other.QTH")).database.Count(), 3U);
 }
 
-TEST_F(FileCommandsTest, OpenIgnoresAForeignFileSilently)
+TEST_F(FileCommandsTest, OpenIgnoresAForeignFileWithoutABox)
 {
     WriteBytes("foreign.QTH", std::string(400, 'x'));
     ChooseFile("foreign.QTH");
