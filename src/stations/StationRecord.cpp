@@ -1,7 +1,9 @@
 #include "stations/StationRecord.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
+#include <utility>
 
 #include "base/CodePage.h"
 
@@ -12,6 +14,30 @@ namespace {
 // One place of the text buffer stays unused: a field never ends behind position 255.
 constexpr std::size_t kEndOfRoom = 255;
 
+// Stores the texts in `record` and gives the fields that were cut or left out.
+std::vector<Field> StoreTexts(StationRecord& record, const StationTexts& texts,
+                              std::string_view now)
+{
+    const std::string_view date = Trimmed(texts.date).empty() ? now : texts.date;
+    const std::array<std::pair<Field, std::string_view>, 6> fields = {{
+        {Field::Callsign, texts.callsign},
+        {Field::Name, texts.name},
+        {Field::Place, texts.place},
+        {Field::Frequency, texts.frequency},
+        {Field::Remark, texts.remark},
+        {Field::Date, date},
+    }};
+    std::vector<Field> cut;
+    for (const auto& [field, text] : fields) {
+        if (!record.SetBytes(field, base::ToCodePage(text))) {
+            cut.push_back(field);
+        }
+    }
+    record.SetBytes(Field::Reserved6, {});
+    record.SetBytes(Field::Reserved7, {});
+    return cut;
+}
+
 }  // namespace
 
 std::string StationRecord::Text(Field field) const
@@ -19,16 +45,18 @@ std::string StationRecord::Text(Field field) const
     return base::FromCodePage(Bytes(field));
 }
 
-void StationRecord::SetBytes(Field field, std::string_view bytes)
+bool StationRecord::SetBytes(Field field, std::string_view bytes)
 {
+    const std::string_view text = Trimmed(bytes);
     const auto k = static_cast<std::size_t>(field);
     const std::size_t start = k == 0 ? 1 : ends_[k - 1];
     if (start == 0 || start >= kEndOfRoom) {
-        return;
+        return text.empty();
     }
-    const std::string_view stored = Trimmed(bytes).substr(0, kEndOfRoom - start);
+    const std::string_view stored = text.substr(0, kEndOfRoom - start);
     std::copy(stored.begin(), stored.end(), text_.data() + start - 1);
     ends_[k] = static_cast<std::uint8_t>(start + stored.size());
+    return stored.size() == text.size();
 }
 
 void StationRecord::SetPosition(geo::GeoPosition position)
@@ -40,18 +68,16 @@ void StationRecord::SetPosition(geo::GeoPosition position)
 StationRecord BuildRecord(const StationTexts& texts, geo::GeoPosition position,
                           std::string_view now)
 {
-    const std::string_view date = Trimmed(texts.date).empty() ? now : texts.date;
     StationRecord record = EmptyRecord();
-    record.SetBytes(Field::Callsign, base::ToCodePage(texts.callsign));
-    record.SetBytes(Field::Name, base::ToCodePage(texts.name));
-    record.SetBytes(Field::Place, base::ToCodePage(texts.place));
-    record.SetBytes(Field::Frequency, base::ToCodePage(texts.frequency));
-    record.SetBytes(Field::Remark, base::ToCodePage(texts.remark));
-    record.SetBytes(Field::Date, base::ToCodePage(date));
-    record.SetBytes(Field::Reserved6, {});
-    record.SetBytes(Field::Reserved7, {});
+    StoreTexts(record, texts, now);
     record.SetPosition(position);
     return record;
+}
+
+std::vector<Field> CutFields(const StationTexts& texts, std::string_view now)
+{
+    StationRecord record = EmptyRecord();
+    return StoreTexts(record, texts, now);
 }
 
 StationTexts TextsOf(const StationRecord& record)

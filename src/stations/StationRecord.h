@@ -20,6 +20,7 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <vector>
 
 #include "geo/GeoPosition.h"
 
@@ -68,8 +69,9 @@ public:
 
     // Stores a field, in Windows-1252, without the blanks at its ends and cut to the room left: all
     // fields together hold 254 characters. Fields are stored in ascending order. Where no room is
-    // left nothing is stored, and nothing in the fields behind it either.
-    void SetBytes(Field field, std::string_view bytes);
+    // left nothing is stored, and nothing in the fields behind it either. False when something was
+    // cut or left out.
+    bool SetBytes(Field field, std::string_view bytes);
 
     double Longitude() const { return std::bit_cast<double>(longitude_); }
     double Latitude() const { return std::bit_cast<double>(latitude_); }
@@ -115,6 +117,10 @@ struct StationTexts {
 // A new record. `now` stands in for a date that is empty or blank.
 StationRecord BuildRecord(const StationTexts& texts, geo::GeoPosition position,
                           std::string_view now);
+
+// The fields that BuildRecord cuts or leaves out because the texts are together too long, in their
+// order.
+std::vector<Field> CutFields(const StationTexts& texts, std::string_view now);
 
 StationTexts TextsOf(const StationRecord& record);
 

@@ -184,25 +184,63 @@ std::optional<SkipReason> ReasonToSkip(const Line& line)
     return std::nullopt;
 }
 
-void FillRecord(StationRecord& record, const Line& line, std::string_view text,
+// False when something was cut or left out.
+bool FillRecord(StationRecord& record, const Line& line, std::string_view text,
                 std::string_view date)
 {
     static constexpr StationRecord kEmpty = EmptyRecord();
     record = kEmpty;
-    record.SetBytes(Field::Callsign, text);
+    const bool wholeCallsign = record.SetBytes(Field::Callsign, text);
     record.SetBytes(Field::Name, {});
-    record.SetBytes(Field::Place, text);
+    const bool wholePlace = record.SetBytes(Field::Place, text);
     record.SetBytes(Field::Frequency, {});
     record.SetBytes(Field::Remark, {});
-    record.SetBytes(Field::Date, date);
+    const bool wholeDate = record.SetBytes(Field::Date, date);
     record.SetBytes(Field::Reserved6, {});
     record.SetBytes(Field::Reserved7, {});
     record.SetPosition({.latitude = line.numbers[0], .longitude = line.numbers[1]});
+    return wholeCallsign && wholePlace && wholeDate;
+}
+
+// What composing changes begins at U+0300: only from there on has UTF-8 bytes as large as this.
+constexpr unsigned char kFirstByteOfMarks = 0xCC;
+
+std::string ComposedCodePage(std::string_view utf8, ComposeText compose)
+{
+    std::string bytes = base::ToCodePage(utf8);
+    const bool ascii = bytes.size() == utf8.size();
+    if (ascii || compose == nullptr || std::none_of(utf8.begin(), utf8.end(), [](char c) {
+            return static_cast<unsigned char>(c) >= kFirstByteOfMarks;
+        })) {
+        return bytes;
+    }
+    return base::ToCodePage(compose(utf8));
+}
+
+void NoteSkipped(ImportResult& result, SkippedLine line)
+{
+    ++result.skipped;
+    if (result.firstSkipped.size() < kLinesNamed) {
+        result.firstSkipped.push_back(line);
+    }
+}
+
+void NoteCut(ImportResult& result, std::size_t number)
+{
+    ++result.cut;
+    if (result.firstCut.size() < kLinesNamed) {
+        result.firstCut.push_back(number);
+    }
 }
 
 enum class Encoding { Utf8, CodePage };
 
-ImportResult ImportLines(std::string_view text, Encoding encoding, std::string_view date,
+struct TextForm {
+    Encoding encoding = Encoding::Utf8;
+    ComposeText compose = nullptr;
+};
+
+ImportResult ImportLines(std::string_view text, TextForm form, std::string_view date,
                          StationDatabase& database)
 {
     ImportResult result;
@@ -219,21 +257,22 @@ ImportResult ImportLines(std::string_view text, Encoding encoding, std::string_v
             continue;
         }
         if (const std::optional<SkipReason> reason = ReasonToSkip(line)) {
-            ++result.skipped;
-            if (result.firstSkipped.size() < kLinesNamed) {
-                result.firstSkipped.push_back({.number = lines.Number(), .reason = *reason});
-            }
+            NoteSkipped(result, {.number = lines.Number(), .reason = *reason});
             continue;
         }
         if (database.Count() == kMaxRecords) {
             database.Truncate(before);
-            return {.tooMany = true, .imported = 0, .skipped = 0, .firstSkipped = {}};
+            ImportResult tooMany;
+            tooMany.tooMany = true;
+            return tooMany;
         }
         StationRecord& record = database.Extend(1).front();
-        if (encoding == Encoding::Utf8) {
-            FillRecord(record, line, base::ToCodePage(line.text), date);
-        } else {
-            FillRecord(record, line, line.text, date);
+        const bool whole =
+            form.encoding == Encoding::Utf8
+                ? FillRecord(record, line, ComposedCodePage(line.text, form.compose), date)
+                : FillRecord(record, line, line.text, date);
+        if (!whole) {
+            NoteCut(result, lines.Number());
         }
     }
     result.imported = database.Count() - before;
@@ -242,18 +281,20 @@ ImportResult ImportLines(std::string_view text, Encoding encoding, std::string_v
 
 }  // namespace
 
-ImportResult ImportText(base::ByteView bytes, std::string_view date, StationDatabase& database)
+ImportResult ImportText(base::ByteView bytes, std::string_view date, StationDatabase& database,
+                        ComposeText compose)
 {
     std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
     if (text.starts_with("\xFF\xFE") || text.starts_with("\xFE\xFF")) {
         const Endian endian = text.starts_with('\xFF') ? Endian::Little : Endian::Big;
-        return ImportLines(FromUtf16(bytes.subspan(2), endian), Encoding::Utf8, date, database);
+        return ImportLines(FromUtf16(bytes.subspan(2), endian),
+                           {.encoding = Encoding::Utf8, .compose = compose}, date, database);
     }
     if (text.starts_with(kUtf8Mark)) {
         text.remove_prefix(kUtf8Mark.size());
     }
     const Encoding encoding = base::IsUtf8(text) ? Encoding::Utf8 : Encoding::CodePage;
-    return ImportLines(text, encoding, date, database);
+    return ImportLines(text, {.encoding = encoding, .compose = compose}, date, database);
 }
 
 }  // namespace stations

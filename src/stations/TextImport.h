@@ -8,6 +8,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -35,11 +36,19 @@ struct ImportResult {
     std::size_t imported = 0;
     std::size_t skipped = 0;
     std::vector<SkippedLine> firstSkipped;  // at most three
+    std::size_t cut = 0;                    // imported lines too long for a record
+    std::vector<std::size_t> firstCut;      // their numbers; at most three
 };
+
+// Gives a UTF-8 text with each base letter and its combining marks as one character, where Unicode
+// has it (NFC).
+using ComposeText = std::string (*)(std::string_view utf8);
 
 // Appends one record for each line that names a station: the text as callsign and place, the
 // position, `date` (Windows-1252) as date. `bytes` is UTF-16 when it begins with a byte-order mark
 // of that, UTF-8 when it is valid as such, else Windows-1252. CR, LF and CR LF end a line.
-ImportResult ImportText(base::ByteView bytes, std::string_view date, StationDatabase& database);
+// Without `compose` texts are taken as they stand.
+ImportResult ImportText(base::ByteView bytes, std::string_view date, StationDatabase& database,
+                        ComposeText compose = nullptr);
 
 }  // namespace stations

@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -119,6 +120,39 @@ TEST(BuildRecord, DatesARecordWithoutADateNow)
               "2007.03.04-05:06:07");
     texts.date = " gestern ";
     EXPECT_EQ(BuildRecord(texts, {}, "2007.03.04-05:06:07").Text(Field::Date), "gestern");
+}
+
+TEST(CutFields, NamesWhatARecordHasNoRoomFor)
+{
+    using Fields = std::vector<Field>;
+    const std::string_view now = "2007.03.04-05:06:07";
+    const StationTexts rest = {
+        .callsign = {}, .name = {}, .place = {}, .frequency = {}, .remark = {}, .date = "x"};
+    StationTexts texts = rest;
+    texts.callsign = std::string(253, 'c');
+    EXPECT_EQ(CutFields(texts, now), Fields());
+    texts.date = "";
+    EXPECT_EQ(CutFields(texts, now), Fields{Field::Date}) << "the date of saving counts";
+    texts.date = "   ";
+    EXPECT_EQ(CutFields(texts, now), Fields{Field::Date});
+    texts.date = "x";
+    texts.name = "  ";
+    EXPECT_EQ(CutFields(texts, now), Fields());
+    texts.remark = "yz";
+    EXPECT_EQ(CutFields(texts, now), (Fields{Field::Remark, Field::Date}));
+    texts.name = "n";
+    EXPECT_EQ(CutFields(texts, now), (Fields{Field::Remark, Field::Date}));
+    texts.callsign = std::string(255, 'c');
+    texts.place = "p";
+    texts.frequency = "f";
+    EXPECT_EQ(CutFields(texts, now), (Fields{Field::Callsign, Field::Name, Field::Place,
+                                             Field::Frequency, Field::Remark, Field::Date}));
+    texts = rest;
+    texts.name = ' ' + std::string(200, ' ') + std::string(100, 'n');
+    for (int i = 0; i < 153; ++i) {
+        texts.place += "\u00e4";
+    }
+    EXPECT_EQ(CutFields(texts, now), Fields()) << "counted as they are stored";
 }
 
 TEST(BuildRecord, WritesAQuestionMarkForWhatTheCodePageLacks)

@@ -163,6 +163,54 @@ TEST(ImportText, SurvivesDamagedUtf16)
     EXPECT_EQ(Imported(text.substr(0, 24)), "a?b?c? 1 2;");
 }
 
+TEST(ImportText, ComposesTextsThatMayHoldMarks)
+{
+    static int calls = 0;
+    const auto import = [](std::string_view text) {
+        StationDatabase database;
+        ImportText({reinterpret_cast<const unsigned char*>(text.data()), text.size()}, kDate,
+                   database, [](std::string_view utf8) {
+                       ++calls;
+                       return '<' + std::string(utf8.substr(0, 1)) + '>';
+                   });
+        return Callsigns(database);
+    };
+    const std::string_view utf16("\xFF\xFE"
+                                 "K\0o\0\x08\x03\t\0001\0\t\0002\0",
+                                 16);
+    EXPECT_EQ(import("Ko\u0308ln\t1\t2"), "<K> ");
+    EXPECT_EQ(import("A\u0327\t1\t2\nA\u036f\t1\t2"), "<A> <A> ");
+    EXPECT_EQ(import("\u212b\t1\t2"), "<?> ") << "a sign that is a letter";
+    EXPECT_EQ(import(utf16), "<K> ");
+    EXPECT_EQ(calls, 5);
+    EXPECT_EQ(import("K\u00f6ln\t1\t2"), "K\u00f6ln ");
+    EXPECT_EQ(import("Plain\t1\t2"), "Plain ");
+    EXPECT_EQ(import("K\xCC\x88ln \xFF\t1\t2"), "K\u00cc\u02c6ln \u00ff ") << "the code page";
+    EXPECT_EQ(calls, 5) << "nothing to compose";
+}
+
+TEST(ImportText, CountsLinesThatAreTooLongForARecord)
+{
+    // Twice the text and the date: 254 characters.
+    const std::string fits(117, 'x');
+    std::string text = "too short\n";
+    for (const std::size_t length : {118U, 117U, 253U, 254U, 300U}) {
+        text += std::string(length, 'x') + "\t1\t2\n";
+    }
+    StationDatabase database;
+    const ImportResult result = Import(text, database);
+    EXPECT_EQ(result.imported, 5U);
+    EXPECT_EQ(result.skipped, 1U);
+    EXPECT_EQ(result.cut, 4U);
+    EXPECT_EQ(result.firstCut, (std::vector<std::size_t>{2, 4, 5}));
+    EXPECT_EQ(database[0].Bytes(Field::Date), kDate.substr(0, 18));
+    EXPECT_EQ(database[1].Bytes(Field::Date), kDate);
+    const std::string blanks(100, ' ');
+    EXPECT_EQ(Import(blanks + fits + blanks + "\t1\t2", database).cut, 0U);
+    EXPECT_EQ(Import("\u00e4" + fits.substr(1) + "\t1\t2", database).cut, 0U)
+        << "one byte in the code page";
+}
+
 TEST(ImportText, ImportsUpToTheLimitAndNothingBeyond)
 {
     StationDatabase database = CountedDatabase(24999);

@@ -12,6 +12,7 @@
 #include "base/TimeStamp.h"
 #include "stations/Listing.h"
 #include "stations/TextImport.h"
+#include "ui/ComposedText.h"
 #include "ui/DatabaseActions.h"
 #include "ui/FileNameText.h"
 #include "ui/UserDialogs.h"
@@ -52,17 +53,36 @@ QString WhyIgnored(const QString& file)
     return info.size() == 0 ? u" ist leer."_s : u" ist keine Stationsdatenbank."_s;
 }
 
+QString ImportedText(const stations::ImportResult& result)
+{
+    return result.imported == 1 ? u"1 Eintrag importiert"_s
+                                : u"%1 Einträge importiert"_s.arg(result.imported);
+}
+
 QString SkippedText(const stations::ImportResult& result)
 {
-    QString text = result.skipped == 1 ? u"1 Zeile wurde übersprungen:"_s
-                                       : u"%1 Zeilen wurden übersprungen:"_s.arg(result.skipped);
+    if (result.skipped == 0) {
+        return {};
+    }
+    QString text = result.skipped == 1 ? u"\n1 Zeile wurde übersprungen:"_s
+                                       : u"\n%1 Zeilen wurden übersprungen:"_s.arg(result.skipped);
     for (const stations::SkippedLine& line : result.firstSkipped) {
         text += u"\nZeile %1: %2"_s.arg(line.number).arg(ReasonText(line.reason));
     }
-    if (result.skipped > result.firstSkipped.size()) {
-        text += u"\n..."_s;
+    return result.skipped > result.firstSkipped.size() ? text + u"\n..."_s : text;
+}
+
+QString CutText(const stations::ImportResult& result)
+{
+    if (result.cut == 0) {
+        return {};
     }
-    return text;
+    QString text = result.cut == 1 ? u"\n1 Zeile wurde gekürzt:"_s
+                                   : u"\n%1 Zeilen wurden gekürzt:"_s.arg(result.cut);
+    for (const std::size_t line : result.firstCut) {
+        text += u"\nZeile %1: Text zu lang"_s.arg(line);
+    }
+    return result.cut > result.firstCut.size() ? text + u"\n..."_s : text;
 }
 
 }  // namespace
@@ -183,20 +203,21 @@ bool FileCommands::ImportText()
         Tell(ExchangeResult::Unreadable, file);
         return false;
     }
-    const stations::ImportResult result =
-        stations::ImportText(contents.bytes, base::TimeStamp(std::time(nullptr)), state_.database);
+    const stations::ImportResult result = stations::ImportText(
+        contents.bytes, base::TimeStamp(std::time(nullptr)), state_.database, ComposedUtf8);
     if (result.tooMany) {
         TellTooManyRecords(&window_, dialogs_);
         return false;
     }
     list_.List1Load();
-    if (UpdateQTHFile(&window_, state_, dialogs_)) {
-        notice_.ShowMessage(result.imported == 1
-                                ? u"1 Eintrag importiert!"_s
-                                : u"%1 Einträge importiert!"_s.arg(result.imported));
-    }
-    if (result.skipped > 0) {
-        dialogs_.Inform(&window_, {}, SkippedText(result));
+    const bool written = UpdateQTHFile(&window_, state_, dialogs_);
+    const QString imported =
+        ImportedText(result) + (written ? u"!"_s : u", aber nicht gespeichert!"_s);
+    // The notice would hide behind the box.
+    if (result.skipped > 0 || result.cut > 0) {
+        dialogs_.Inform(&window_, {}, imported + SkippedText(result) + CutText(result));
+    } else if (written) {
+        notice_.ShowMessage(imported);
     }
     return result.imported > 0;
 }

@@ -296,9 +296,9 @@ TEST_F(FileCommandsTest, ImportTellsWhichLinesItSkipped)
     Choose("MnuTest");
     EXPECT_EQ(state.database.Count(), 5U);
     ASSERT_EQ(dialogs.said.size(), 1U);
-    EXPECT_EQ(dialogs.said[0].text,
-              u"4 Zeilen wurden übersprungen:\nZeile 2: keine zwei Zahlen\nZeile 3: kein Text\n"
-              u"Zeile 4: Breite über 90 Grad\n..."_s);
+    EXPECT_EQ(dialogs.said[0].text, u"1 Eintrag importiert!\n4 Zeilen wurden übersprungen:\nZeile "
+                                    u"2: keine zwei Zahlen\nZeile 3: kein Text\n"
+                                    u"Zeile 4: Breite über 90 Grad\n..."_s);
 }
 
 TEST_F(FileCommandsTest, ImportBeyondTheLimitImportsNothing)
