@@ -13,6 +13,7 @@
 #include "app/ShutDown.h"
 #include "app/StartUp.h"
 #include "base/TimeStamp.h"
+#include "ui/ComposedText.h"
 #include "ui/Controls.h"
 #include "ui/DatabaseActions.h"
 #include "ui/FileNameText.h"
@@ -26,6 +27,7 @@
 #include "ui/main/MessageBar.h"
 #include "ui/main/PictureClip.h"
 #include "ui/main/ResultBlock.h"
+#include "ui/main/SaveQuestion.h"
 #include "ui/main/StartTexts.h"
 #include "ui/main/StationListFrame.h"
 #include "ui/main/StationListView.h"
@@ -196,12 +198,12 @@ void MainForm::SetStation(int station, const stations::StationTexts& texts,
 stations::StationTexts MainForm::TextsOf(int station) const
 {
     const StationPanel& panel = *panel_[static_cast<std::size_t>(station)];
-    return {.callsign = panel.Text14->text().toStdString(),
-            .name = panel.Text15->text().toStdString(),
-            .place = panel.Text16->text().toStdString(),
-            .frequency = panel.Text17->text().toStdString(),
-            .remark = panel.Text18->text().toStdString(),
-            .date = panel.Text19->text().toStdString()};
+    return {.callsign = Composed(panel.Text14->text()),
+            .name = Composed(panel.Text15->text()),
+            .place = Composed(panel.Text16->text()),
+            .frequency = Composed(panel.Text17->text()),
+            .remark = Composed(panel.Text18->text()),
+            .date = Composed(panel.Text19->text())};
 }
 
 stations::StationRecord MainForm::NewRecord(int station) const
@@ -259,7 +261,12 @@ void MainForm::TakeLine(int row)
 
 void MainForm::SavePanel(int station)
 {
-    if (!AppendRecord(NewRecord(station))) {
+    const stations::StationTexts texts = TextsOf(station);
+    const geo::GeoPosition position = state_.shown.position[static_cast<std::size_t>(station)];
+    const std::string now = base::TimeStamp(std::time(nullptr));
+    const bool room = state_.database.Count() < stations::kMaxRecords;
+    if ((room && !MayStore(*this, dialogs_, station, texts, position, now))
+        || !AppendRecord(stations::BuildRecord(texts, position, now))) {
         return;
     }
     List1Load();
