@@ -49,7 +49,7 @@ bool MayStore(QWidget& window, UserDialogs& dialogs, int station,
            || dialogs.AskOkCancel(
                &window, u"Sichern"_s,
                u"Die Texte von "_s + name
-                   + u" sind zusammen zu lang für einen Eintrag. Gekürzt oder weggelassen wird:\n"_s
+                   + u" sind zusammen zu lang für einen Eintrag. Gekürzt oder weggelassen:\n"_s
                    + cut.join(u", "_s) + u"\nTrotzdem sichern?"_s);
 }
 

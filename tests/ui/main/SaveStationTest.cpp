@@ -26,7 +26,7 @@ Message Question(const QString& fields)
 {
     return {u"Sichern"_s,
             u"Die Texte von Station 1 sind zusammen zu lang für einen Eintrag. Gekürzt oder "
-            u"weggelassen wird:\n"_s
+            u"weggelassen:\n"_s
                 + fields + u"\nTrotzdem sichern?"_s};
 }
 
