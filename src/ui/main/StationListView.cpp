@@ -134,9 +134,9 @@ void StationListView::focusInEvent(QFocusEvent* event)
     const bool chosen = currentIndex().isValid();
     QListView::focusInEvent(event);
     // The list box would make the first line current by itself. Return must not load or delete a
-    // line that nobody went to.
+    // line that nobody went to. The marks stay: setCurrentIndex() would take them away.
     if (!chosen) {
-        setCurrentIndex({});
+        selectionModel()->setCurrentIndex({}, QItemSelectionModel::NoUpdate);
     }
 }
 

@@ -2,6 +2,8 @@
 
 #include <chrono>
 
+#include <QMenu>
+#include <QMenuBar>
 #include <QScrollBar>
 #include <QSignalSpy>
 
@@ -215,6 +217,116 @@ TEST_F(StationListViewTest, ALineOfFewWideLettersIsNotCutEither)
     const int lineWidth =
         list->List1->fontMetrics().horizontalAdvance(QString::fromStdString(wide + " -  - "));
     EXPECT_GT(list->List1->visualRect(list->List1->model()->index(6, 0)).width(), lineWidth);
+}
+
+// Ways by which the focus leaves the list and comes back.
+class ReturnToTheListTest : public StationListViewTest {
+protected:
+    void OpenAndCloseAMenu()
+    {
+        QMenuBar& bar = *window.menuBar();
+        QAction* const title = bar.actions().front();
+        QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.actionGeometry(title).center());
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(title->menu()));
+        QTest::keyClick(title->menu(), Qt::Key_Escape);
+        QTest::keyClick(&bar, Qt::Key_Escape);
+    }
+
+    void GoToAnotherWindowAndBack()
+    {
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+        window.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    }
+
+    void TabAwayAndBack()
+    {
+        Press(Qt::Key_Tab);
+        ASSERT_FALSE(list->List1->hasFocus());
+        QTest::keyClick(window.focusWidget(), Qt::Key_Backtab);
+    }
+
+    void LeaveByEveryWay()
+    {
+        const struct {
+            const char* name;
+            void (ReturnToTheListTest::*go)();
+        } ways[] = {
+            {"menu", &ReturnToTheListTest::OpenAndCloseAMenu},
+            {"window", &ReturnToTheListTest::GoToAnotherWindowAndBack},
+            {"tab", &ReturnToTheListTest::TabAwayAndBack},
+        };
+        for (const auto& way : ways) {
+            SCOPED_TRACE(way.name);
+            (this->*way.go)();
+            EXPECT_TRUE(list->List1->hasFocus());
+            EXPECT_EQ(Marked(), marks) << "a return is no click";
+            EXPECT_EQ(CurrentRow(), -1) << "nor does it go to a line";
+            Press(Qt::Key_Return);
+            EXPECT_EQ(Chosen(), Rows{});
+        }
+    }
+
+    Rows marks;
+};
+
+TEST_F(ReturnToTheListTest, LeavesEveryMarkOfCtrlAInPlace)
+{
+    Press(Qt::Key_A, Qt::ControlModifier);
+    marks = {0, 1, 2, 3, 4};
+    ASSERT_EQ(Marked(), marks);
+    LeaveByEveryWay();
+}
+
+TEST_F(ReturnToTheListTest, LeavesAnUnmarkedListUnmarked)
+{
+    LeaveByEveryWay();
+    OpenAndCloseAMenu();
+    Press(Qt::Key_End);
+    EXPECT_EQ(Marked(), Rows{4}) << "the far keys still go as far as they should";
+}
+
+TEST_F(ReturnToTheListTest, LeavesTheMarksOfACommandInPlace)
+{
+    list->ShowMarks({1, 3});
+    for (int i = 0; i < 2; ++i) {
+        OpenAndCloseAMenu();
+        GoToAnotherWindowAndBack();
+        TabAwayAndBack();
+        EXPECT_EQ(Marked(), (Rows{1, 3}));
+    }
+}
+
+TEST_F(StationListViewTest, OnlyKeysThatMarkEndTheMarks)
+{
+    Press(Qt::Key_A, Qt::ControlModifier);
+    const struct {
+        int key;
+        Qt::KeyboardModifiers modifiers;
+    } others[] = {
+        {Qt::Key_Return, {}},
+        {Qt::Key_F5, {}},
+        {Qt::Key_Insert, {}},
+        {Qt::Key_Delete, {}},
+        {Qt::Key_Shift, Qt::ShiftModifier},
+        {Qt::Key_Control, Qt::ControlModifier},
+        {Qt::Key_Down, Qt::ControlModifier},
+        {Qt::Key_End, Qt::ControlModifier},
+        {Qt::Key_C, Qt::ControlModifier},
+        {Qt::Key_X, Qt::AltModifier},
+        {Qt::Key_D, Qt::AltModifier},
+        {Qt::Key_D, Qt::MetaModifier},
+    };
+    for (const auto& other : others) {
+        SCOPED_TRACE(other.key);
+        Press(other.key, other.modifiers);
+        EXPECT_EQ(Marked(), (Rows{0, 1, 2, 3, 4}));
+    }
+    Press(Qt::Key_Up);
+    EXPECT_EQ(Marked().size(), 1U);
 }
 
 class FullStationListTest : public StationListViewTest {
