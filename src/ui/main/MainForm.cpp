@@ -121,7 +121,7 @@ void MainForm::ConnectPanels()
         connect(panel->SA, &QPushButton::clicked, this, [this, station] { SavePanel(station); });
         // Texts that are set otherwise come with a position, whose change tells of both.
         for (EntryField* const field : panel->StationFields()) {
-            connect(field, &EntryField::textEdited, this, &MainForm::Changed);
+            connect(field, &EntryField::Entered, this, &MainForm::Changed);
         }
     }
 }

@@ -7,6 +7,7 @@
 
 #include <QRadioButton>
 
+#include "ui/main/EntryField.h"
 #include "ui/main/MainFormFixture.h"
 
 namespace ui {
@@ -237,8 +238,8 @@ TEST_F(CoordinateFieldsTest, WritingTheTextAFieldShowsStillRefreshesTheForms)
     ASSERT_NE(fields, nullptr);
     fields->SetPosition(1, {.latitude = 48.0, .longitude = 11.0});
     Type("Text1_1", u"JJ00AA"_s);
-    Field("Text2_1")->setText(u"11"_s);  // ignored: the locator is being edited
-    Field("Text3_1")->setText(u"48"_s);
+    Find<EntryField>("Text2_1")->Show(u"11"_s);  // ignored: the locator is being edited
+    Find<EntryField>("Text3_1")->Show(u"48"_s);
     fields->SetPosition(1, {.latitude = 48.0, .longitude = 11.0});
     EXPECT_EQ(Text("Text1_1"), "JN58MA");
     EXPECT_EQ(state.shown.position[1], (geo::GeoPosition{.latitude = 48.0, .longitude = 11.0}));
