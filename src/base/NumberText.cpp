@@ -191,4 +191,31 @@ std::string NumberFormat::operator()(double value, std::string_view pattern) con
     return text;
 }
 
+std::string NumberFormat::Plain(double value) const
+{
+    std::string text = PlainDecimal(value);
+    if (const std::size_t point = text.find('.'); point != std::string::npos) {
+        text.replace(point, 1, decimalSeparator_);
+    }
+    return text;
+}
+
+std::string NumberFormat::Repair(std::string_view text) const
+{
+    std::string repaired = RepairDecimalComma(text);
+    if (decimalSeparator_.empty()) {
+        return repaired;
+    }
+    std::size_t at = 0;
+    while ((at = repaired.find(decimalSeparator_, at)) != std::string::npos) {
+        repaired.replace(at++, decimalSeparator_.size(), ".");
+    }
+    return repaired;
+}
+
+double NumberFormat::Read(std::string_view text) const
+{
+    return Val(Repair(text));
+}
+
 }  // namespace base

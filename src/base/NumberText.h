@@ -26,7 +26,7 @@ double ReadNumber(std::string_view text);
 // not finite.
 std::string PlainDecimal(double value);
 
-// Prints numbers by pattern with one decimal separator, usually that of the regional settings.
+// Prints numbers with one decimal separator, usually that of the regional settings, and reads them.
 class NumberFormat {
 public:
     // `decimalSeparator` is UTF-8; it may be longer than one byte.
@@ -42,6 +42,15 @@ public:
     //
     // -0.4 by "0.00 km - " is "-0.40 km - ", 1234.5 by "##0.0" is "1234.5".
     std::string operator()(double value, std::string_view pattern) const;
+
+    // PlainDecimal with the separator.
+    std::string Plain(double value) const;
+
+    // The text with the separator and every "," replaced by ".".
+    std::string Repair(std::string_view text) const;
+
+    // What a user typed, as a number: the separator, "," and "." are read alike.
+    double Read(std::string_view text) const;
 
 private:
     std::string decimalSeparator_;

@@ -152,6 +152,29 @@ TEST(NumberFormat, UsesItsSeparatorInTheNumberOnly)
     EXPECT_EQ(NumberFormat("\u066b")(1.5, "0.0"), "1\u066b5");
 }
 
+TEST(NumberFormat, UsesItsSeparatorInPlainDecimalsToo)
+{
+    EXPECT_EQ(NumberFormat(",").Plain(11.45), "11,45");
+    EXPECT_EQ(NumberFormat("\u066b").Plain(-0.1), "-0\u066b1");
+    EXPECT_EQ(NumberFormat(",").Plain(-1000.0), "-1000");
+    EXPECT_EQ(NumberFormat().Plain(0.00001), "0.00001");
+    EXPECT_EQ(NumberFormat(",").Plain(std::numeric_limits<double>::infinity()), "");
+}
+
+TEST(NumberFormat, ReadsItsSeparatorTheCommaAndThePoint)
+{
+    for (const char* const separator : {".", ",", "\u066b", "'", ""}) {
+        SCOPED_TRACE(separator);
+        const NumberFormat format(separator);
+        EXPECT_EQ(format.Read("48.5"), 48.5);
+        EXPECT_EQ(format.Read("48,5"), 48.5);
+        EXPECT_EQ(format.Read(format.Plain(-48.25)), *separator == '\0' ? -4825.0 : -48.25);
+        EXPECT_EQ(format.Read("1.2.3"), 1.2);
+        EXPECT_EQ(format.Read(""), 0.0);
+    }
+    EXPECT_EQ(NumberFormat("\u066b").Repair("1\u066b2\u066b3,4"), "1.2.3.4");
+}
+
 TEST(NumberFormat, IsEmptyWhenThereIsNoNumberToShow)
 {
     const NumberFormat format;

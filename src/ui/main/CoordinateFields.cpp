@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <string>
 
 #include <QRadioButton>
@@ -52,9 +53,16 @@ constexpr EntryGroup kRefreshOrder[] = {EntryGroup::Decimal, EntryGroup::DegreeM
                                         EntryGroup::Locator, EntryGroup::GaussKrueger,
                                         EntryGroup::Utm};
 
-double NumberIn(const EntryField* field)
+bool IsFinite(const geo::GeoPosition& position)
 {
-    return base::ReadNumber(field->text().toStdString());
+    return std::isfinite(position.latitude) && std::isfinite(position.longitude);
+}
+
+// A form shows both coordinates or none.
+geo::GeoPosition WholePosition(const geo::GeoPosition& position)
+{
+    constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
+    return IsFinite(position) ? position : geo::GeoPosition{kNone, kNone};
 }
 
 void Show(EntryField* field, const std::string& text)
@@ -105,29 +113,42 @@ void CoordinateFields::Changed(StationPanel& panel, const EntryField* field, Ent
 void CoordinateFields::Read(StationPanel& panel, const EntryField* field, EntryGroup group)
 {
     geo::GeoPosition& position = state_.shown.position[static_cast<std::size_t>(panel.station)];
+    const base::NumberFormat& format = state_.numberFormat;
+    const auto numberIn = [&format](const EntryField* f) {
+        return format.Read(f->text().toStdString());
+    };
     switch (group) {
     case EntryGroup::Locator:
         position = geo::LocatorToPosition(panel.Text1->text().toStdString());
         break;
-    case EntryGroup::Decimal:
-        // Only the coordinate that was typed: the other keeps more digits than its field shows.
-        (field == panel.Text2 ? position.longitude : position.latitude) = NumberIn(field);
+    case EntryGroup::Decimal: {
+        // Only the coordinate that was typed: the other keeps more digits than its field shows,
+        // unless neither field shows any.
+        const bool both = !IsFinite(position);
+        if (both || field == panel.Text2) {
+            position.longitude = numberIn(panel.Text2);
+        }
+        if (both || field == panel.Text3) {
+            position.latitude = numberIn(panel.Text3);
+        }
         break;
+    }
     case EntryGroup::DegreeMinute: {
         geo::DegreeMinuteTexts texts;
-        std::ranges::transform(panel.DegreeMinuteFields(), texts.begin(),
-                               [](const EntryField* f) { return f->text().toStdString(); });
+        std::ranges::transform(
+            panel.DegreeMinuteFields(), texts.begin(),
+            [&format](const EntryField* f) { return format.Repair(f->text().toStdString()); });
         position = geo::ReadDegreeMinutes(texts, state_.entry.degreeMinuteMode);
         break;
     }
     case EntryGroup::GaussKrueger:
         position =
-            geo::GkToGeo({.easting = NumberIn(panel.Text12), .northing = NumberIn(panel.Text13)},
+            geo::GkToGeo({.easting = numberIn(panel.Text12), .northing = numberIn(panel.Text13)},
                          state_.configuration.datum);
         break;
     case EntryGroup::Utm:
         position =
-            geo::UtmToGeo(NumberIn(panel.Text20), NumberIn(panel.Text21), NumberIn(panel.Text22));
+            geo::UtmToGeo(numberIn(panel.Text20), numberIn(panel.Text21), numberIn(panel.Text22));
         break;
     case EntryGroup::None: break;
     }
@@ -148,7 +169,7 @@ void CoordinateFields::ShowForm(int station, EntryGroup form)
 void CoordinateFields::ShowDecimal(int station)
 {
     const auto index = static_cast<std::size_t>(station);
-    const geo::GeoPosition& position = state_.shown.position[index];
+    const geo::GeoPosition position = WholePosition(state_.shown.position[index]);
     Show(panel_[index]->Text2, geo::DecimalText(position.longitude, state_.numberFormat));
     Show(panel_[index]->Text3, geo::DecimalText(position.latitude, state_.numberFormat));
 }
@@ -157,7 +178,7 @@ void CoordinateFields::GRDMINSEC(int station)
 {
     const auto index = static_cast<std::size_t>(station);
     const geo::DegreeMinuteTexts texts = geo::FieldTexts(
-        geo::GRDMINSEC(state_.shown.position[index], state_.entry.degreeMinuteMode));
+        geo::GRDMINSEC(WholePosition(state_.shown.position[index]), state_.entry.degreeMinuteMode));
     const std::array<EntryField*, 8> fields = panel_[index]->DegreeMinuteFields();
     for (std::size_t i = 0; i < fields.size(); ++i) {
         Show(fields[i], texts[i]);
@@ -210,10 +231,14 @@ void CoordinateFields::Entfernung()
 
 void CoordinateFields::SetPosition(int station, geo::GeoPosition position)
 {
+    if (!IsFinite(position)) {
+        SetPositionWithoutResult(station, position);
+        return;
+    }
     StationPanel& panel = *panel_[static_cast<std::size_t>(station)];
     state_.entry.activeGroup = EntryGroup::Decimal;
     const auto write = [&](EntryField* field, double degrees) {
-        const QString text = QString::fromStdString(base::PlainDecimal(degrees));
+        const QString text = QString::fromStdString(state_.numberFormat.Plain(degrees));
         if (field->text() == text) {
             // No change event comes, but the position may have more digits than its field showed.
             Changed(panel, field, EntryGroup::Decimal);
@@ -223,6 +248,17 @@ void CoordinateFields::SetPosition(int station, geo::GeoPosition position)
     };
     write(panel.Text2, position.longitude);
     write(panel.Text3, position.latitude);
+}
+
+void CoordinateFields::SetPositionWithoutResult(int station, geo::GeoPosition position)
+{
+    state_.entry.activeGroup = EntryGroup::None;  // an emptied field must not be read as 0
+    state_.shown.position[static_cast<std::size_t>(station)] = position;
+    for (const EntryGroup form : kRefreshOrder) {
+        ShowForm(station, form);
+    }
+    state_.entry.activeGroup = EntryGroup::Decimal;
+    Entfernung();
 }
 
 void CoordinateFields::Set_GMS_String()

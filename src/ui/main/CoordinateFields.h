@@ -39,6 +39,7 @@ public:
 
     // Sets a station from elsewhere: start-up, list, mean value, map click. Decimal degrees become
     // the active group; writing the two fields as plain decimal text derives all the other forms.
+    // A position that is not finite is kept as it is and leaves every form empty.
     void SetPosition(int station, geo::GeoPosition position);
 
     // Takes the degree format of the configuration over and shows both stations in it.
@@ -52,6 +53,7 @@ private:
     void Changed(StationPanel& panel, const EntryField* field, app::EntryGroup group);
     void Read(StationPanel& panel, const EntryField* field, app::EntryGroup group);
     void ShowForm(int station, app::EntryGroup form);
+    void SetPositionWithoutResult(int station, geo::GeoPosition position);
     void Option2Clicked();
 
     app::AppState& state_;

@@ -21,8 +21,8 @@ std::vector<std::string> PropertyLines(const app::MapState& map, map::ImageSize 
     double number = 0.0;
     for (const map::ReferencePoint& point : map.references.Points()) {
         number += 1.0;
-        lines.push_back("Ref" + format(number, "0") + ":  X=" + base::PlainDecimal(point.X) + "  Y="
-                        + base::PlainDecimal(point.Y) + "  B=" + format(point.Latitude, "0.000000")
+        lines.push_back("Ref" + format(number, "0") + ":  X=" + format.Plain(point.X) + "  Y="
+                        + format.Plain(point.Y) + "  B=" + format(point.Latitude, "0.000000")
                         + "  L=" + format(point.Longitude, "0.000000"));
     }
     return lines;

@@ -1,12 +1,20 @@
 #include "ui/main/CoordinateFields.h"
 
 #include <array>
+#include <bit>
+#include <cmath>
+#include <cstdint>
+#include <cstring>
+#include <limits>
 #include <random>
 #include <string>
 #include <vector>
 
+#include <QAction>
+#include <QKeyEvent>
 #include <QRadioButton>
 
+#include "ui/main/CfgForm.h"
 #include "ui/main/EntryField.h"
 #include "ui/main/MainFormFixture.h"
 
@@ -36,6 +44,16 @@ protected:
             texts.push_back(Of(name, station));
         }
         return texts;
+    }
+
+    // Type() for characters that QTest knows no key for.
+    void TypeCharacters(const char* name, const QString& text)
+    {
+        Type(name, {});
+        for (const QChar c : text) {
+            QKeyEvent key(QEvent::KeyPress, 0, {}, QString(c));
+            QCoreApplication::sendEvent(Field(name), &key);
+        }
     }
 
     using Texts = std::vector<std::string>;
@@ -260,6 +278,135 @@ TEST_F(CoordinateFieldsTest, NumbersOnTheScreenUseTheRegionalSeparator)
     EXPECT_EQ(Text("Text2_1"), "11,625000");
     EXPECT_NE(Label("Label3").find(','), std::string::npos);
     EXPECT_EQ(Label("Label3").find('.'), std::string::npos);
+}
+
+TEST_F(CoordinateFieldsTest, ALoadedPositionIsShownWithTheRegionalSeparator)
+{
+    for (const char* const separator : {",", "\u066b"}) {
+        SCOPED_TRACE(separator);
+        state.numberFormat = base::NumberFormat(separator);
+        const geo::GeoPosition position = {.latitude = -48.3500001, .longitude = 11.45};
+        window.SetStation(1, {}, position);
+        EXPECT_EQ(Text("Text2_1"), "11" + std::string(separator) + "45");
+        EXPECT_EQ(Text("Text3_1"), "-48" + std::string(separator) + "3500001");
+        EXPECT_EQ(state.shown.position[1], position);
+        EXPECT_EQ(Text("Text12_1").size(), 7U) << "the other forms follow";
+    }
+}
+
+TEST_F(CoordinateFieldsTest, EveryFormReadsTheRegionalSeparatorCommaAndPoint)
+{
+    state.numberFormat = base::NumberFormat("\u066b");
+    for (const QString& separator : {u"\u066b"_s, u","_s, u"."_s}) {
+        SCOPED_TRACE(separator.toStdString());
+        Type("Text1_0", u"JJ00AA"_s);
+        TypeCharacters("Text3_0", u"48"_s + separator + u"25"_s);
+        EXPECT_EQ(state.shown.position[0].latitude, 48.25);
+        TypeCharacters("Text8_0", u"47"_s + separator + u"5"_s);
+        Type("Text9_0", u"0"_s);
+        Type("Text10_0", u"0"_s);
+        EXPECT_EQ(state.shown.position[0].latitude, 47.5);
+        Type("Text12_0", u"4468503"_s);
+        const double whole = state.shown.position[0].longitude;
+        TypeCharacters("Text12_0", u"4468503"_s + separator + u"25"_s);
+        EXPECT_NEAR(state.shown.position[0].longitude, whole, 1e-5);
+        EXPECT_NE(state.shown.position[0].longitude, whole);
+        Type("Text21_0", u"668503"_s);
+        const double utm = state.shown.position[0].longitude;
+        TypeCharacters("Text21_0", u"668503"_s + separator + u"25"_s);
+        EXPECT_NEAR(state.shown.position[0].longitude, utm, 1e-5);
+        EXPECT_NE(state.shown.position[0].longitude, utm);
+    }
+}
+
+// What a grid field that names no point on the earth leaves behind.
+class PositionWithoutResultTest : public CoordinateFieldsTest {
+protected:
+    static constexpr double kInfinite = std::numeric_limits<double>::infinity();
+    static constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
+
+    void ExpectNothingShown(int station)
+    {
+        for (const char* const name : kEveryField) {
+            const int number = std::stoi(std::string(name).substr(4));
+            if (number < 14 || number > 19) {
+                EXPECT_EQ(Of(name, station), "") << name;
+            }
+        }
+        for (const char* const label : {"Label3", "Label4_0", "Label4_1"}) {
+            EXPECT_EQ(Label(label), "");
+        }
+    }
+};
+
+TEST_F(PositionWithoutResultTest, IsSetAsItIsAndLeavesEveryFormEmpty)
+{
+    const geo::GeoPosition positions[] = {
+        {kInfinite, -kInfinite}, {48.0, kInfinite}, {kNoNumber, 11.0}, {kNoNumber, kNoNumber}};
+    for (const geo::GeoPosition& position : positions) {
+        window.SetStation(1, {}, {.latitude = 48.0, .longitude = 11.0});
+        window.SetStation(1, {}, position);
+        const geo::GeoPosition& held = state.shown.position[1];
+        EXPECT_EQ(std::bit_cast<std::uint64_t>(held.latitude),
+                  std::bit_cast<std::uint64_t>(position.latitude));
+        EXPECT_EQ(std::bit_cast<std::uint64_t>(held.longitude),
+                  std::bit_cast<std::uint64_t>(position.longitude));
+        ExpectNothingShown(1);
+        EXPECT_EQ(state.entry.activeGroup, app::EntryGroup::Decimal);
+        QTest::mouseClick(Find<QRadioButton>("Option2_1"), Qt::LeftButton);
+        QTest::mouseClick(Find<QRadioButton>("Option2_0"), Qt::LeftButton);
+        QTest::mouseClick(Find<QRadioButton>("Option2_1"), Qt::LeftButton);
+        ExpectNothingShown(1);
+        Find<QAction>("MnuConfig")->trigger();
+        QTest::keyClick(window.findChild<CfgForm*>(), Qt::Key_Return);
+        ExpectNothingShown(1);
+        EXPECT_EQ(Text("Text3_0"), "48.35") << "the other station is not touched";
+    }
+}
+
+TEST_F(PositionWithoutResultTest, EndsWithTheNextThingTyped)
+{
+    const struct {
+        const char* field;
+        QString typed;
+        const char* longitude;
+        const char* latitude;
+    } cases[] = {
+        {"Text1_1", u"JN58TH"_s, "11.625000", "48.312500"},
+        {"Text2_1", u"11"_s, "11", ""},
+        {"Text3_1", u"48"_s, "", "48"},
+        {"Text8_1", u"48"_s, "0.000000", "48.000000"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.field);
+        window.SetStation(1, {}, {kInfinite, kInfinite});
+        Type(c.field, c.typed);
+        EXPECT_EQ(Text("Text2_1"), c.longitude);
+        EXPECT_EQ(Text("Text3_1"), c.latitude);
+        EXPECT_TRUE(std::isfinite(state.shown.position[1].latitude)) << "an empty field is 0";
+        EXPECT_TRUE(std::isfinite(state.shown.position[1].longitude));
+        EXPECT_EQ(Text("Text1_1").size(), 6U);
+        EXPECT_NE(Label("Label3"), "");
+    }
+}
+
+TEST_F(PositionWithoutResultTest, SurvivesTheEndOfTheRun)
+{
+    Type("Text21_0", QString(60, u'9'));
+    const geo::GeoPosition left = state.shown.position[0];
+    ASSERT_FALSE(std::isfinite(left.latitude) && std::isfinite(left.longitude));
+    window.close();
+    ProgramRun next;
+    ASSERT_TRUE(next.Start());
+    for (const char* const name : {"Text1_0", "Text2_0", "Text3_0", "Text8_0", "Text13_0",
+                                   "Text20_0", "Text21_0", "Text22_0"}) {
+        EXPECT_EQ(next.Text(name), "") << name;
+    }
+    EXPECT_EQ(next.Label("Label3"), "");
+    EXPECT_NE(next.Text("Text3_1"), "");
+    const geo::GeoPosition& held = next.state.shown.position[0];
+    EXPECT_EQ(std::memcmp(&held, &left, sizeof left), 0);
+    next.window.close();
 }
 
 TEST_F(CoordinateFieldsTest, TheDirectionFollowsTheConfiguration)

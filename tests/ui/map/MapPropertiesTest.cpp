@@ -16,7 +16,7 @@ TEST(PropertyLines, ListModesPictureAndReferencePoints)
     app::MapState map;
     map.mapImage = true;
     map.references.AddStation2Reference(512, 300, {48.3125, -11.5});
-    map.references.AddStation2Reference(0, 7, {-0.25, 179.9999999});
+    map.references.AddStation2Reference(0.5, 7, {-0.25, 179.9999999});
     EXPECT_EQ(
         PropertyLines(map, {3000, 2000}, "/karten/M\xC3\xBCnchen.jpg", base::NumberFormat(",")),
         (std::vector<std::string>{
@@ -27,7 +27,7 @@ TEST(PropertyLines, ListModesPictureAndReferencePoints)
             "Bild: /karten/M\xC3\xBCnchen.jpg",
             "2 Referenzpunkte: ",
             "Ref1:  X=512  Y=300  B=48,312500  L=-11,500000",
-            "Ref2:  X=0  Y=7  B=-0,250000  L=180,000000",
+            "Ref2:  X=0,5  Y=7  B=-0,250000  L=180,000000",
         }));
 }
 
