@@ -87,6 +87,23 @@ TEST_F(StationPanelTest, TheTabKeyFollowsTheReadingOrder)
     }
 }
 
+TEST_F(StationPanelTest, TheTabKeyReachesTheDegreeFormatBeforeTheFields)
+{
+    for (const char* const chosen : {"Option2_0", "Option2_1", "Option2_0"}) {
+        SCOPED_TRACE(chosen);
+        QTest::mouseClick(Find<QRadioButton>(chosen), Qt::LeftButton);
+        Field("Text14_0")->setFocus();
+        QTest::keyClick(Field("Text14_0"), Qt::Key_Backtab);
+        EXPECT_EQ(window.focusWidget()->objectName().toStdString(), chosen);
+        QTest::keyClick(window.focusWidget(), Qt::Key_Backtab);
+        EXPECT_EQ(window.focusWidget()->objectName().toStdString(), "Command5");
+        QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+        EXPECT_EQ(window.focusWidget()->objectName().toStdString(), chosen);
+        QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+        EXPECT_EQ(window.focusWidget(), Field("Text14_0"));
+    }
+}
+
 TEST_F(StationPanelTest, TheDefaultStationsAreShownAtFirst)
 {
     EXPECT_EQ(Text("Text14_0"), "QQ0AAA");
