@@ -43,6 +43,11 @@ FormHeadings::FormHeadings(QGridLayout& grid, int row) : QObject(grid.parentWidg
                            ElementName("Option2", static_cast<int>(i)));
         Option2[i]->setToolTip(toolTips[i]);
         line->addWidget(Option2[i]);
+        // The Tab key reaches the chosen one. Qt sees to that only once one of them had the focus.
+        Option2[i]->setFocusPolicy(Qt::ClickFocus);
+        connect(Option2[i], &QRadioButton::toggled, this, [option = Option2[i]](bool chosen) {
+            option->setFocusPolicy(chosen ? Qt::StrongFocus : Qt::ClickFocus);
+        });
     }
     line->addStretch();
     Option2[0]->setChecked(true);

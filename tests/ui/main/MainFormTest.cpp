@@ -104,6 +104,9 @@ TEST_F(MainFormTest, TheStoredDegreeFormatIsShown)
     EXPECT_TRUE(run.Find<QAbstractButton>("Option2_1")->isChecked()) << "G-M-S";
     EXPECT_EQ(run.Text("Text10_1"), "22")
         << "47.422778 degrees are 47 degrees 25 minutes 22 seconds";
+    run.Find<QPushButton>("Command5")->setFocus();
+    QTest::keyClick(run.window.focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(run.window.focusWidget()->objectName(), u"Option2_1"_s) << "not the other one";
 }
 
 TEST_F(MainFormTest, ARunEndsWithBothPanelsInTheConfiguration)
