@@ -56,6 +56,11 @@ bool BeginsWithSixAscii(std::string_view text)
     return ((first | last) & 0x80808080U) == 0;
 }
 
+bool IsContinuation(char c)
+{
+    return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
+}
+
 // The first six characters of UTF-8 text. They are counted as characters, so that a stray umlaut
 // takes one place and not two; its lead byte stands for it, which no value function accepts.
 std::array<char, kLength> FirstCharacters(std::string_view text)
@@ -64,7 +69,7 @@ std::array<char, kLength> FirstCharacters(std::string_view text)
     static_assert(kMissing == '\0');
     std::size_t count = 0;
     for (const char c : text) {
-        if ((static_cast<unsigned char>(c) & 0xC0U) == 0x80U) {
+        if (IsContinuation(c)) {
             continue;
         }
         if (count == kLength) {
@@ -75,9 +80,15 @@ std::array<char, kLength> FirstCharacters(std::string_view text)
     return characters;
 }
 
+// Counts like FirstCharacters, however long the text is.
 char CharacterAt(std::string_view locator, std::size_t pos)
 {
-    return pos < kLength ? FirstCharacters(locator)[pos] : kMissing;
+    for (const char c : locator) {
+        if (!IsContinuation(c) && pos-- == 0) {
+            return c;
+        }
+    }
+    return kMissing;
 }
 
 // `c` has six characters at least.

@@ -15,10 +15,10 @@
 
 namespace geo {
 
-// Value of the field letter at `pos`, counted from 0: "A" is -9, "J" is 0, "X" is 14. Centred on
-// "J", the value times the field size is already the signed distance from Greenwich or the
-// equator. Lower case counts as upper case; any other character, or none, is 0. "S" to "X" lie
-// beyond the globe and are accepted on purpose.
+// Value of the field letter at `pos`, counted in characters from 0, behind the sixth too: "A" is
+// -9, "J" is 0, "X" is 14. Centred on "J", the value times the field size is already the signed
+// distance from Greenwich or the equator. Lower case counts as upper case; any other character, or
+// none, is 0. "S" to "X" lie beyond the globe and are accepted on purpose.
 std::int16_t LocCharVal(std::string_view locator, std::size_t pos);
 
 // Value of the square digit at `pos`: 0 to 9; any other character, or none, is 0.

@@ -16,9 +16,25 @@ TEST(LocCharVal, CountsFieldLettersFromJ)
         std::size_t pos;
         int value;
     } cases[] = {
-        {"A", 0, -9}, {"J", 0, 0},  {"X", 0, 14}, {"a", 0, -9},     {"x", 0, 14},
-        {"Y", 0, 0},  {"5", 0, 0},  {"?", 0, 0},  {"", 0, 0},       {"JN", 1, 4},
-        {"J", 1, 0},  {"JN", 2, 0}, {"@", 0, 0},  {"\u00c4", 0, 0}, {"JN58TH", 7, 0},
+        {"A", 0, -9},
+        {"J", 0, 0},
+        {"X", 0, 14},
+        {"a", 0, -9},
+        {"x", 0, 14},
+        {"Y", 0, 0},
+        {"5", 0, 0},
+        {"?", 0, 0},
+        {"", 0, 0},
+        {"JN", 1, 4},
+        {"J", 1, 0},
+        {"JN", 2, 0},
+        {"@", 0, 0},
+        {"\u00c4", 0, 0},
+        {"JN58TH", 7, 0},
+        {"JN58THKX", 6, 1},
+        {"JN58TH\u00c4a", 6, 0},
+        {"JN58TH\u00c4a", 7, -9},
+        {"JN58THK", 7, 0},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.locator);
@@ -36,6 +52,7 @@ TEST(LocNumVal, TakesDigitsOnly)
     EXPECT_EQ(LocNumVal("/:", 0), 0);
     EXPECT_EQ(LocNumVal("/:", 1), 0);
     EXPECT_EQ(LocNumVal("JN", 2), 0);
+    EXPECT_EQ(LocNumVal("JN58TH47", 7), 7);
 }
 
 TEST(LocSuffVal, CountsSubsquareLettersFromA)
@@ -47,6 +64,8 @@ TEST(LocSuffVal, CountsSubsquareLettersFromA)
     EXPECT_EQ(LocSuffVal("Y", 0), 0);
     EXPECT_EQ(LocSuffVal("5", 0), 0);
     EXPECT_EQ(LocSuffVal("JN58", 4), 0);
+    EXPECT_EQ(LocSuffVal("JN58TH47qx", 9), 23);
+    EXPECT_EQ(LocSuffVal("JN58TH47qx", 10), 0);
 }
 
 TEST(LocatorToPosition, IsTheCentreOfTheSubsquare)
