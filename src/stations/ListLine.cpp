@@ -40,6 +40,23 @@ const Layout& LayoutOf(ListKey key)
     return index < kLayouts.size() ? kLayouts[index] : kPlain;
 }
 
+bool IsControl(char c)
+{
+    return static_cast<unsigned char>(c) < ' ';
+}
+
+// A line break becomes one blank, as does every other control character.
+void MakeOneLine(std::string& line)
+{
+    if (std::none_of(line.begin(), line.end(), IsControl)) {
+        return;
+    }
+    for (std::size_t at = 0; (at = line.find("\r\n", at)) != std::string::npos;) {
+        line.erase(at, 1);
+    }
+    std::replace_if(line.begin(), line.end(), IsControl, ' ');
+}
+
 double LeadingNumber(const StationRecord& record, ListKey key, double keyValue)
 {
     switch (key) {
@@ -73,6 +90,7 @@ std::string ListLine(const StationRecord& record, ListKey key, double keyValue,
         }
         line += record.Text(layout.texts[i]);
     }
+    MakeOneLine(line);
     return line;
 }
 

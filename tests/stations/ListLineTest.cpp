@@ -67,6 +67,26 @@ TEST(ListLine, IsNeverCut)
               std::string(254, 'x') + " -  - ");
 }
 
+TEST(ListLine, IsOneLine)
+{
+    const struct {
+        const char* name;
+        const char* shown;
+    } cases[] = {
+        {"a\nb", "a b"}, {"a\r\nb", "a b"},    {"a\rb", "a b"},    {"a\n\rb", "a  b"},
+        {"a\vb", "a b"}, {"a\fb\tc", "a b c"}, {"a\n\nb", "a  b"}, {"\r\n\r\n", "  "},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.shown);
+        const StationRecord record = MakeRecord({"DL1ABC", c.name, "Ort"});
+        EXPECT_EQ(ListLine(record, ListKey::Callsign, 0.0, kComma),
+                  "DL1ABC - " + std::string(c.shown) + " - Ort");
+        EXPECT_EQ(record.Text(Field::Name), c.name) << "the record keeps its text";
+    }
+    const StationRecord record = MakeRecord({"DL1ABC", std::string("a\0b", 3), "Ort"});
+    EXPECT_EQ(ListLine(record, ListKey::Name, 0.0, kComma), "a b - DL1ABC - Ort");
+}
+
 TEST(LongestLine, CountsTheTextsThatTheLineShows)
 {
     const std::vector<StationRecord> records = {

@@ -75,6 +75,14 @@ TEST_F(StationListModelTest, ShowsTextOnly)
     EXPECT_EQ(model.rowCount(model.index(0, 0)), 0) << "a list, not a tree";
 }
 
+TEST_F(StationListModelTest, ALineBreakInATextIsShownAsABlank)
+{
+    database.Append(stations::MakeRecord({"DL1\r\nABC", "Anna\nBerta", "Ort"}));
+    model.Fill(stations::ListKey::Callsign, {});
+    EXPECT_EQ(Line(2), u"DL1 ABC - Anna Berta - Ort"_s);
+    EXPECT_EQ(database[2].Text(stations::Field::Name), "Anna\nBerta");
+}
+
 TEST_F(StationListModelTest, TheLongestLineIsThatOfTheLongestTexts)
 {
     EXPECT_EQ(StationListModel(stations::StationDatabase(), format, nullptr).LongestLine(), u""_s);
