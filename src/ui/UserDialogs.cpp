@@ -1,13 +1,17 @@
 #include "ui/UserDialogs.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QScreen>
 #include <QUrl>
 
 #include "ui/FileNameText.h"
@@ -66,6 +70,29 @@ private:
     QString ending_;
 };
 
+// The width beyond which no message box of Qt grows.
+int WidestBox(const QScreen& screen)
+{
+    constexpr int kSmallScreen = 1024;
+    constexpr int kKeptFree = 480;
+    constexpr int kWidest = 1000;
+    const int width = screen.availableSize().width();
+    return width <= kSmallScreen ? width : std::min(width - kKeptFree, kWidest);
+}
+
+// A message box wraps its lines at half the screen. Those of a text that brings its own line breaks
+// stay whole, as far as a box can be that wide.
+void KeepLines(QMessageBox& box)
+{
+    auto* const label = box.findChild<QLabel*>(u"qt_msgbox_label"_s);
+    if (label == nullptr || !box.text().contains(u'\n')) {
+        return;
+    }
+    label->setWordWrap(false);
+    const int around = box.layout()->totalMinimumSize().width() - label->minimumSizeHint().width();
+    label->setMinimumWidth(std::min(label->sizeHint().width(), WidestBox(*box.screen()) - around));
+}
+
 }  // namespace
 
 void QtDialogs::Inform(QWidget* parent, const QString& title, const QString& text,
@@ -74,6 +101,7 @@ void QtDialogs::Inform(QWidget* parent, const QString& title, const QString& tex
     QMessageBox box(QMessageBox::Information, Title(title), text, QMessageBox::Ok, parent);
     box.setTextFormat(Qt::PlainText);
     box.setInformativeText(informative);
+    KeepLines(box);
     box.exec();
 }
 

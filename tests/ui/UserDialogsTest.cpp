@@ -4,6 +4,12 @@
 #include <QDesktopServices>
 #include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScreen>
+#include <QTest>
 #include <QTextBrowser>
 #include <QUrl>
 
@@ -57,6 +63,37 @@ TEST_F(UserDialogsTest, AMessageWithoutATitleShowsTheProgramsName)
         QTest::keyClick(&window, Qt::Key_Escape);
     });
     dialogs.Inform(nullptr, {}, u"text"_s);
+}
+
+TEST_F(UserDialogsTest, AMessageOfSeveralLinesWrapsNone)
+{
+    const QString text = u"History\n"_s + QString(20, u'W') + u"\n"_s
+                         + u"V0.28: Programmabbruch in Kartendarstellung nach fehlendem "_s
+                         + u"Listenupdate beseitigt,\n           Anzeige"_s;
+    Then([&](QWidget& window) {
+        const auto* const label = window.findChild<QLabel*>(u"qt_msgbox_label"_s);
+        ASSERT_NE(label, nullptr);
+        const QRect lines = label->fontMetrics().boundingRect(QRect(), 0, text);
+        ASSERT_LT(lines.width(), window.screen()->availableSize().width() - 200) << "test's text";
+        EXPECT_GE(label->contentsRect().width(), lines.width());
+        EXPECT_LE(label->heightForWidth(label->width()), lines.height() + 2 * label->margin());
+        EXPECT_GE(label->height(), lines.height());
+        EXPECT_LE(label->geometry().right(), window.width()) << "nor is it cut";
+        Press(window, QMessageBox::Ok);
+    });
+    dialogs.Inform(nullptr, {}, text);
+}
+
+TEST_F(UserDialogsTest, AMessageOfEndlessLinesStaysOnTheScreen)
+{
+    const QString text = QString(500, u'W') + u"\n"_s + QStringList(100, u"word"_s).join(u' ');
+    Then([&](QWidget& window) {
+        const auto* const label = window.findChild<QLabel*>(u"qt_msgbox_label"_s);
+        EXPECT_LE(window.width(), window.screen()->availableSize().width());
+        EXPECT_LE(label->geometry().right(), window.width()) << "nor is it cut";
+        Press(window, QMessageBox::Ok);
+    });
+    dialogs.Inform(nullptr, {}, text);
 }
 
 TEST_F(UserDialogsTest, AQuestionIsAnsweredByItsButtonsInGerman)
