@@ -80,6 +80,7 @@ MainForm::MainForm(app::AppState& state, UserDialogs& dialogs)
     connect(result_->Command5, &QPushButton::clicked, this, &MainForm::ShowMap);
     connect(configuration_, &CfgForm::Confirmed, this, &MainForm::TakeConfiguration);
     DrawPictures();
+    list_->SetOpener(panel_[0]->Command1);
     list_->Close();
     panel_[0]->Text1->setFocus();
 }
@@ -115,9 +116,9 @@ void MainForm::ConnectPanels()
     for (StationPanel* const panel : panel_) {
         const int station = panel->station;
         connect(panel->Command1, &QPushButton::clicked, this,
-                [this, station] { list_->Open(app::ListMode::Get, station); });
+                [=, this] { list_->Open(app::ListMode::Get, station, panel->Command1); });
         connect(panel->Command4, &QPushButton::clicked, this,
-                [this, station] { list_->Open(app::ListMode::Clear, station); });
+                [=, this] { list_->Open(app::ListMode::Clear, station, panel->Command4); });
         connect(panel->SA, &QPushButton::clicked, this, [this, station] { SavePanel(station); });
         // Texts that are set otherwise come with a position, whose change tells of both.
         for (EntryField* const field : panel->StationFields()) {

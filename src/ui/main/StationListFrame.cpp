@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QVBoxLayout>
 
 #include "stations/Sorting.h"
@@ -89,8 +90,11 @@ void StationListFrame::FillList(std::vector<double> keyValues)
     Command7->setEnabled(false);
 }
 
-void StationListFrame::Open(app::ListMode mode, int targetPanel)
+void StationListFrame::Open(app::ListMode mode, int targetPanel, QWidget* opener)
 {
+    if (opener != nullptr) {
+        opener_ = opener;
+    }
     List1Load();
     const QString station = QString::number(targetPanel + 1);
     setTitle(mode == app::ListMode::Get ? u"Station "_s + station + u" Laden"_s
@@ -106,6 +110,11 @@ void StationListFrame::ShowMarks(const std::vector<std::size_t>& rows)
     if (state_.list.mode == app::ListMode::Nop) {
         setTitle(u"List"_s);
     }
+    QWidget* const focused = window()->focusWidget();
+    // Not an option button: an arrow key would change the setting.
+    if (isHidden() && focused != nullptr && qobject_cast<QRadioButton*>(focused) == nullptr) {
+        opener_ = focused;
+    }
     show();
     List1->MarkRows(rows);
 }
@@ -113,6 +122,10 @@ void StationListFrame::ShowMarks(const std::vector<std::size_t>& rows)
 void StationListFrame::Close()
 {
     state_.list.mode = app::ListMode::Nop;
+    // Before hiding, which would pass the focus on to whatever comes next.
+    if (opener_ != nullptr && isAncestorOf(window()->focusWidget())) {
+        opener_->setFocus();
+    }
     hide();
 }
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include <QGroupBox>
+#include <QPointer>
 
 #include "app/AppState.h"
 
@@ -29,12 +30,16 @@ public:
     void List1Check();
 
     // Shows the frame, filled, for a panel: a click on a line will then load (Get) or delete
-    // (Clear).
-    void Open(app::ListMode mode, int targetPanel);
+    // (Clear). The focus goes into the list and at Close() to `opener`; none: to the opener before.
+    void Open(app::ListMode mode, int targetPanel, QWidget* opener = nullptr);
     // Marks exactly these lines, in ascending order, and shows the frame so that they can be seen.
+    // The focus stays; at Close() it comes back there.
     void ShowMarks(const std::vector<std::size_t>& rows);
     // Ends the list mode and hides the frame.
     void Close();
+
+    // Where the focus goes when nothing else is known.
+    void SetOpener(QWidget* opener) { opener_ = opener; }
 
     // Switches the sort selector off and back to its first entry.
     void ResetSortCombo() const;
@@ -57,6 +62,7 @@ private:
     app::AppState& state_;
     UserDialogs& dialogs_;
     StationListModel* model_;
+    QPointer<QWidget> opener_;
 };
 
 }  // namespace ui

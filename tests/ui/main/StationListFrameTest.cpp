@@ -1,5 +1,7 @@
 #include "ui/main/StationListFrame.h"
 
+#include <QAction>
+#include <QApplication>
 #include <QSignalSpy>
 
 #include "ui/main/StationListFixture.h"
@@ -12,6 +14,7 @@ using namespace Qt::StringLiterals;
 class StationListFrameTest : public StationListFixture {
 protected:
     std::string Caption() const { return list->title().toStdString(); }
+    std::string FocusName() const { return window.focusWidget()->objectName().toStdString(); }
 };
 
 TEST_F(StationListFrameTest, ControlsCarryTheirNamesAndCaptions)
@@ -82,6 +85,66 @@ TEST_F(StationListFrameTest, SchliessenAndEscapeEndTheModeAndHideTheFrame)
     EXPECT_FALSE(list->isVisible());
     EXPECT_EQ(state.list.mode, app::ListMode::Nop);
     EXPECT_TRUE(window.isVisible());
+}
+
+TEST_F(StationListFrameTest, ClosingGivesTheFocusBackToTheButtonThatOpenedTheList)
+{
+    for (const char* const opener : {"Command1_0", "Command4_0", "Command1_1", "Command4_1"}) {
+        SCOPED_TRACE(opener);
+        Click(opener);
+        Press(Qt::Key_Escape);
+        EXPECT_EQ(FocusName(), opener);
+        Click(opener);
+        QTest::mouseClick(list->Command2, Qt::LeftButton);
+        EXPECT_EQ(FocusName(), opener);
+    }
+    const auto format = state.configuration.degreeFormat;
+    QTest::keyClick(window.focusWidget(), Qt::Key_Right);
+    EXPECT_EQ(state.configuration.degreeFormat, format) << "an arrow key changes no setting";
+}
+
+TEST_F(StationListFrameTest, ClosingAfterADeletionGivesTheFocusBackToRemove)
+{
+    Click("Command4_1");
+    ClickLine(1);
+    Press(Qt::Key_Escape);
+    EXPECT_EQ(FocusName(), "Command4_1");
+}
+
+TEST_F(StationListFrameTest, ClosingAListOpenedByACommandGivesTheFocusBackToWhereItWas)
+{
+    const struct {
+        const char* before;
+        const char* after;
+    } cases[] = {
+        {"Option2_0", "Command1_0"},
+        {"Text5_1", "Text5_1"},
+        {"Command5", "Command5"},
+        {"Option2_0", "Command5"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.before);
+        Find<QWidget>(c.before)->setFocus();
+        Find<QAction>("MnuDopMark")->trigger();
+        ASSERT_TRUE(list->isVisible());
+        list->List1->setFocus();
+        Press(Qt::Key_Escape);
+        EXPECT_EQ(FocusName(), c.after);
+    }
+    Click("Command4_0");
+    Find<QAction>("MnuDopMark")->trigger();
+    Press(Qt::Key_Escape);
+    EXPECT_EQ(FocusName(), "Command4_0") << "it was open already";
+}
+
+TEST_F(StationListFrameTest, ClosingFocusesNoOtherFieldOnTheWay)
+{
+    Click("Command1_0");
+    state.entry.activeGroup = app::EntryGroup::None;
+    const QSignalSpy changes(qApp, &QApplication::focusChanged);
+    Press(Qt::Key_Escape);
+    EXPECT_EQ(changes.count(), 1);
+    EXPECT_EQ(state.entry.activeGroup, app::EntryGroup::None);
 }
 
 TEST_F(StationListFrameTest, AClickLoadsTheRecordIntoTheTargetPanel)
