@@ -39,7 +39,7 @@ FileKind KindOf(const std::string& name)
 {
     constexpr std::uint64_t kBeginning = 4096;  // every mark lies in it
     base::InputFile file(name);
-    if (file.Status() == base::FileStatus::Missing) {
+    if (file.Status() == base::FileStatus::Missing || file.Status() == base::FileStatus::NoFolder) {
         return FileKind::Missing;
     }
     base::ByteVector beginning(static_cast<std::size_t>(std::min(file.Size(), kBeginning)));
