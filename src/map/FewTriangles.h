@@ -17,6 +17,7 @@ public:
     static constexpr std::size_t kMost = 4;
 
     void Clear();
+    bool Empty() const { return size_ == 0; }
 
     // Adds the triangle of three points that are not collinear; at most kMost times.
     void Add(const ReferencePoint& a, const ReferencePoint& b, const ReferencePoint& c);

@@ -42,6 +42,9 @@ public:
     // single calls in the last places.
     void At(std::span<const geo::GeoPosition> positions, std::span<Pixel> pixels) const;
 
+    // False when there is no usable triangle.
+    bool Usable() const { return !points_.empty() || !few_.Empty(); }
+
 private:
     void TakePoints(std::span<const ReferencePoint> points);
     void PrepareMoments();

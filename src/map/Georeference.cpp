@@ -98,6 +98,12 @@ geo::GeoPosition PixelToGeoEstimate(const ReferenceTable& table, std::int32_t x,
     return table.Inverse().At(ToPixel(x, y));
 }
 
+std::optional<geo::GeoPosition> KnownPosition(const ReferenceTable& table, std::int32_t x,
+                                              std::int32_t y)
+{
+    return table.Inverse().Find(ToPixel(x, y));
+}
+
 FoundPosition PixelToGeo(const ReferenceTable& table, std::int32_t x, std::int32_t y,
                          double tolerance, Refinement refinement)
 {
@@ -106,6 +112,14 @@ FoundPosition PixelToGeo(const ReferenceTable& table, std::int32_t x, std::int32
         search.Run(tolerance);
     }
     return search.Found();
+}
+
+bool GivesPosition(const ReferenceTable& table, std::int32_t x, std::int32_t y,
+                   Refinement refinement)
+{
+    return KnownPosition(table, x, y).has_value()
+           || (refinement == Refinement::On && table.Inverse().Usable()
+               && table.Forward().Usable());
 }
 
 FoundPosition CornerToGeo(const ReferenceTable& table, ImageSize size, int i, int j,

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <span>
 
 #include "geo/GeoPosition.h"
@@ -24,6 +25,10 @@ void GeoToPixel(const ReferenceTable& table, std::span<const geo::GeoPosition> p
 // First estimate of the inverse, by the same blend the other way round.
 geo::GeoPosition PixelToGeoEstimate(const ReferenceTable& table, std::int32_t x, std::int32_t y);
 
+// The estimate where there is one; none when no triangle contributes.
+std::optional<geo::GeoPosition> KnownPosition(const ReferenceTable& table, std::int32_t x,
+                                              std::int32_t y);
+
 // A position, and how far from the pixel it is drawn (pixels).
 struct FoundPosition {
     geo::GeoPosition position;
@@ -41,6 +46,11 @@ enum class Refinement { Off, On };
 // double while they help and halve while they do not; after 1001 rounds it ends where it is.
 FoundPosition PixelToGeo(const ReferenceTable& table, std::int32_t x, std::int32_t y,
                          double tolerance, Refinement refinement);
+
+// Whether PixelToGeo gives a pixel a position of the earth: by the estimate, or by a search that
+// has triangles of both directions to go by.
+bool GivesPosition(const ReferenceTable& table, std::int32_t x, std::int32_t y,
+                   Refinement refinement);
 
 // Pixels, 1 to kLongestEdge each.
 struct ImageSize {

@@ -113,10 +113,10 @@ void InverseBlend::AddAllTriangles()
     }
 }
 
-geo::GeoPosition InverseBlend::At(Pixel pixel) const
+std::optional<geo::GeoPosition> InverseBlend::Find(Pixel pixel) const
 {
-    if (rotations_ == 0) {
-        return {};
+    if (!Usable()) {
+        return std::nullopt;
     }
     const PlanePoint p = {.x = std::clamp(pixel.x, -kFarthestPoint, kFarthestPoint),
                           .y = std::clamp(pixel.y, -kFarthestPoint, kFarthestPoint)};
@@ -136,9 +136,10 @@ geo::GeoPosition InverseBlend::At(Pixel pixel) const
         }
     }
     if (sum.weight == 0.0 || sum.leftOut == rotations_) {
-        return {};
+        return std::nullopt;
     }
-    return {.latitude = sum.latitude / sum.weight, .longitude = sum.longitude / sum.weight};
+    return geo::GeoPosition{.latitude = sum.latitude / sum.weight,
+                            .longitude = sum.longitude / sum.weight};
 }
 
 void InverseBlend::SubtractParallel(Sum& sum, PlanePoint p, std::size_t apex) const

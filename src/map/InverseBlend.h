@@ -8,6 +8,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -24,8 +25,14 @@ class InverseBlend {
 public:
     void Prepare(std::span<const ReferencePoint> points);
 
-    // Position of a finite pixel; 0/0 when no triangle contributes.
-    geo::GeoPosition At(Pixel pixel) const;
+    // Position of a finite pixel; none when no triangle contributes.
+    std::optional<geo::GeoPosition> Find(Pixel pixel) const;
+
+    // The same, with 0/0 instead of none.
+    geo::GeoPosition At(Pixel pixel) const { return Find(pixel).value_or(geo::GeoPosition{}); }
+
+    // False when no triangle contributes to any pixel.
+    bool Usable() const { return rotations_ > 0; }
 
 private:
     // A reference point and the weighted sum of the affine maps of the rotations that begin there.

@@ -84,9 +84,15 @@ std::optional<MapGrid> GridOf(const CornerBounds& bounds)
 
 std::optional<MapGrid> GridOf(const ReferenceTable& table, ImageSize size, Refinement refinement)
 {
+    if (!table.Forward().Usable()) {
+        return std::nullopt;
+    }
     CornerBounds bounds;
     for (const int i : {0, 1}) {
         for (const int j : {0, 1}) {
+            if (!GivesPosition(table, i * size.width, j * size.height, refinement)) {
+                return std::nullopt;
+            }
             const geo::GeoPosition corner = CornerToGeo(table, size, i, j, refinement).position;
             if (!std::isfinite(corner.latitude) || !std::isfinite(corner.longitude)) {
                 return std::nullopt;

@@ -49,7 +49,8 @@ std::int32_t GridSpacing(double spans);
 // The grid of a box. None when it is not finite or there would be more than kMostGridLines.
 std::optional<MapGrid> GridOf(const CornerBounds& bounds);
 
-// The grid of the four corners of the image. None also when a corner is not finite.
+// The grid of the four corners of the image. None also when a corner has no finite position, or no
+// position a pixel.
 std::optional<MapGrid> GridOf(const ReferenceTable& table, ImageSize size, Refinement refinement);
 
 }  // namespace map

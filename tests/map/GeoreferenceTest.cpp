@@ -87,6 +87,32 @@ TEST(GeoToPixel, ConvertsManyPositionsLikeOne)
     }
 }
 
+TEST(KnownPosition, TellsNoneFromZero)
+{
+    EXPECT_EQ(KnownPosition(PlainTable(), 0, 0), geo::GeoPosition{});
+    EXPECT_EQ(KnownPosition(ReferenceTable(), 0, 0), std::nullopt);
+    const ReferenceTable line =
+        TableOf({{0.0, 0.0, 0.0, 0.0}, {10.0, 10.0, 1.0, 1.0}, {20.0, 20.0, 2.0, 2.0}});
+    EXPECT_EQ(KnownPosition(line, 10, 10), std::nullopt);
+    for (const Refinement refinement : {Refinement::On, Refinement::Off}) {
+        EXPECT_TRUE(GivesPosition(PlainTable(), 0, 0, refinement));
+        EXPECT_FALSE(GivesPosition(ReferenceTable(), 0, 0, refinement));
+        EXPECT_FALSE(GivesPosition(line, 10, 10, refinement));
+    }
+}
+
+// Every rotation is parallel to its base there: CP to AB, AP to BC, and CA is vertical.
+TEST(GivesPosition, WhereTheEstimateHasNoneTheSearchMay)
+{
+    const ReferenceTable table =
+        TableOf({{500.0, 0.0, 10.5, 49.0}, {0.0, 500.0, 10.0, 48.5}, {500.0, 1000.0, 10.5, 48.0}});
+    ASSERT_EQ(KnownPosition(table, 1000, 500), std::nullopt);
+    EXPECT_FALSE(GivesPosition(table, 1000, 500, Refinement::Off));
+    EXPECT_TRUE(GivesPosition(table, 1000, 500, Refinement::On));
+    EXPECT_NEAR(PixelToGeo(table, 1000, 500, kClickTolerance, Refinement::On).position.longitude,
+                11.0, 1e-5);
+}
+
 TEST(PixelToGeo, IsTheEstimateWithoutRefinement)
 {
     Random random(32);

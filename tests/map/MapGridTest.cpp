@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <limits>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -90,12 +91,34 @@ TEST(GridOf, CoversTheCornersOfTheImage)
     EXPECT_EQ(grid->meridians, 26);
 }
 
-TEST(GridOf, IsOneLineEachWayWithoutReferences)
+TEST(GridOf, NoneWithoutUsablePoints)
 {
-    const auto grid = GridOf(ReferenceTable(), {.width = 800, .height = 500}, Refinement::On);
-    ASSERT_TRUE(grid);
-    EXPECT_EQ(grid->parallels, 2);
-    EXPECT_EQ(grid->meridians, 2);
+    const ImageSize size = {.width = 800, .height = 500};
+    const struct {
+        const char* name;
+        std::vector<ReferencePoint> points;
+    } cases[] = {
+        {"none", {}},
+        {"two", {{0, 0, 11, 49}, {800, 0, 12, 49}}},
+        {"one line", {{0, 0, 11, 49}, {80, 50, 12, 48}, {800, 500, 21, 39}}},
+        {"one line of the image", {{0, 0, 11, 49}, {80, 50, 12, 49}, {800, 500, 11, 39}}},
+        {"one line of the earth", {{0, 0, 11, 49}, {80, 0, 12, 48}, {800, 500, 21, 39}}},
+    };
+    for (const auto& c : cases) {
+        for (const Refinement refinement : {Refinement::On, Refinement::Off}) {
+            ReferenceTable table;
+            table.Replace(c.points, static_cast<std::int16_t>(c.points.size()));
+            EXPECT_FALSE(GridOf(table, size, refinement)) << c.name;
+        }
+    }
+}
+
+TEST(GridOf, AMapAtZeroHasLines)
+{
+    const ImageSize size = {.width = 800, .height = 500};
+    ReferenceTable table;
+    table.Replace({{0, 0, 0, 0}, {800, 0, 1, 0}, {0, 500, 0, 1}}, 3);
+    EXPECT_TRUE(GridOf(table, size, Refinement::On));
 }
 
 }  // namespace

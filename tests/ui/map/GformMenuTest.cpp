@@ -251,6 +251,28 @@ TEST_F(GformMenuTest, GridThatCannotBeMadeIsToldAndStaysUnchecked)
     EXPECT_EQ(Picture(), without);
 }
 
+TEST_F(GformMenuTest, GridWithoutUsablePointsIsToldAndStaysUnchecked)
+{
+    Open();
+    LoadMap(MapFile(400, 300));
+    Choose("MnuS2Ref");
+    for (const int x : {0, 100, 200}) {  // on one line
+        SCOPED_TRACE(x);
+        state.shown.position[1] = {48.0 - 0.001 * x, 11.0 + 0.001 * x};
+        ClickAt(x, x);
+        dialogs.said.clear();
+        Choose("MnuRast");
+        EXPECT_FALSE(Checked("MnuRast"));
+        ASSERT_EQ(dialogs.said.size(), 1U);
+        EXPECT_TRUE(dialogs.said[0].text.contains(u"Raster"_s));
+        EXPECT_EQ(dialogs.parents.back(), form.get());
+    }
+    state.shown.position[1] = {48.0, 11.2};
+    ClickAt(200, 0);
+    Choose("MnuRast");
+    EXPECT_TRUE(Checked("MnuRast"));
+}
+
 TEST_F(GformMenuTest, SurfaceOffersTheClickModes)
 {
     Open();
