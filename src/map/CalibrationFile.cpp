@@ -120,6 +120,34 @@ std::optional<Coordinate> CoordinateAt(std::string_view text, std::size_t positi
                       .degrees = negative ? 0.0 - *angle : *angle};
 }
 
+// What a text names: the first two of each kind as bounds, and how many of each there are.
+struct Scanned {
+    InfBounds bounds;
+    std::size_t latitudes = 0;
+    std::size_t longitudes = 0;
+};
+
+Scanned Scan(std::string_view text)
+{
+    text = text.substr(0, kMostCharacters);
+    Scanned scanned;
+    InfBounds& bounds = scanned.bounds;
+    double* const latitudes[] = {&bounds.firstLatitude, &bounds.secondLatitude};
+    double* const longitudes[] = {&bounds.firstLongitude, &bounds.secondLongitude};
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto coordinate = CoordinateAt(text, i);
+        if (!coordinate) {
+            continue;
+        }
+        std::size_t& count = coordinate->isLatitude ? scanned.latitudes : scanned.longitudes;
+        if (count < 2) {
+            *(coordinate->isLatitude ? latitudes : longitudes)[count] = coordinate->degrees;
+        }
+        ++count;
+    }
+    return scanned;
+}
+
 }  // namespace
 
 std::string InfLatitude(double degrees)
@@ -132,16 +160,24 @@ std::string InfLongitude(double degrees)
     return InfAngle(degrees, 3, 'E', 'W');
 }
 
-std::string InfText(const ReferenceTable& table, ImageSize size, std::string_view imageName)
+std::optional<std::string> InfText(const ReferenceTable& table, ImageSize size,
+                                   std::string_view imageName)
 {
     const std::int32_t middleX = Half(size.width);
     const std::int32_t middleY = Half(size.height);
-    const auto line = [&](std::int32_t edgeY, std::int32_t edgeX) {
-        return InfLatitude(PixelToGeoEstimate(table, middleX, edgeY).latitude) + ", "
-               + InfLongitude(PixelToGeoEstimate(table, edgeX, middleY).longitude)
-               + std::string(kLineEnd);
+    const auto upper = KnownPosition(table, middleX, 0);
+    const auto left = KnownPosition(table, 0, middleY);
+    const auto lower = KnownPosition(table, middleX, size.height);
+    const auto right = KnownPosition(table, size.width, middleY);
+    if (!upper || !left || !lower || !right
+        || !std::isfinite(upper->latitude + left->longitude + lower->latitude + right->longitude)) {
+        return std::nullopt;
+    }
+    const auto line = [](double latitude, double longitude) {
+        return InfLatitude(latitude) + ", " + InfLongitude(longitude) + std::string(kLineEnd);
     };
-    std::string text = line(0, 0) + line(size.height, size.width);
+    std::string text =
+        line(upper->latitude, left->longitude) + line(lower->latitude, right->longitude);
     text += base::ToCodePage(imageName);
     text += kLineEnd;
     return text;
@@ -149,24 +185,16 @@ std::string InfText(const ReferenceTable& table, ImageSize size, std::string_vie
 
 InfBounds ReadInf(std::string_view text)
 {
-    text = text.substr(0, kMostCharacters);
-    InfBounds bounds;
-    double* const latitudes[] = {&bounds.firstLatitude, &bounds.secondLatitude};
-    double* const longitudes[] = {&bounds.firstLongitude, &bounds.secondLongitude};
-    std::size_t latitudeCount = 0;
-    std::size_t longitudeCount = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const auto coordinate = CoordinateAt(text, i);
-        if (!coordinate) {
-            continue;
-        }
-        std::size_t& count = coordinate->isLatitude ? latitudeCount : longitudeCount;
-        if (count < 2) {
-            *(coordinate->isLatitude ? latitudes : longitudes)[count] = coordinate->degrees;
-            ++count;
-        }
+    return Scan(text).bounds;
+}
+
+bool IsInf(std::string_view text)
+{
+    if (text.size() > kMostCharacters || text.find('\0') != std::string_view::npos) {
+        return false;
     }
-    return bounds;
+    const Scanned scanned = Scan(text);
+    return scanned.latitudes == 2 && scanned.longitudes == 2;
 }
 
 EdgeCoordinates EdgesOf(const InfBounds& bounds)

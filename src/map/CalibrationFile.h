@@ -8,6 +8,7 @@
 
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -45,14 +46,20 @@ std::string InfLatitude(double degrees);
 std::string InfLongitude(double degrees);
 
 // The file's bytes for an image that its reference points tie down, usually at least three; the
-// edges are measured at their middles. `imageName` is UTF-8.
-std::string InfText(const ReferenceTable& table, ImageSize size, std::string_view imageName);
+// edges are measured at their middles. `imageName` is UTF-8. None when the points give one of the
+// middles no finite position.
+std::optional<std::string> InfText(const ReferenceTable& table, ImageSize size,
+                                   std::string_view imageName);
 
 // Bounds from a file's bytes, of which the first 32767 count. Any text can be read: what is not one
 // to three digits of degrees, a point, one or two of minutes below 60, a point or a comma, decimals
 // of a minute, blanks if any, and N, S, E or W is passed over; so are third and further latitudes
 // and longitudes.
 InfBounds ReadInf(std::string_view text);
+
+// Whether a file's bytes are a calibration: a text of at most 32767 characters in which ReadInf
+// finds two latitudes and two longitudes, no more.
+bool IsInf(std::string_view text);
 
 // The larger latitude is the upper edge, the smaller longitude the left one.
 EdgeCoordinates EdgesOf(const InfBounds& bounds);

@@ -1,5 +1,6 @@
 #include "ui/DatabaseActions.h"
 
+#include "app/OwnFiles.h"
 #include "ui/FileNameText.h"
 #include "ui/UserDialogs.h"
 
@@ -17,6 +18,24 @@ void TellWriteError(QWidget* parent, UserDialogs& dialogs, std::error_code error
                    u"Das Schreiben auf die Datei "_s + Shown(fileName)
                        + u" schlug fehl!\nBitte Schreibschutz überprüfen und ggf. rücksetzen!"_s,
                    informative);
+}
+
+void TellNotReplaced(QWidget* parent, UserDialogs& dialogs, const std::string& fileName,
+                     const QString& reason)
+{
+    dialogs.Inform(parent, {},
+                   u"Die Datei "_s + Shown(fileName) + u' ' + reason
+                       + u", sie wird nicht überschrieben!"_s);
+}
+
+bool MayReplace(QWidget* parent, const app::AppState& state, UserDialogs& dialogs,
+                const std::string& fileName)
+{
+    if (!app::IsOwnFile(state, fileName)) {
+        return true;
+    }
+    TellNotReplaced(parent, dialogs, fileName, u"benutzt das Programm selbst"_s);
+    return false;
 }
 
 bool UpdateQTHFile(QWidget* parent, app::AppState& state, UserDialogs& dialogs)

@@ -20,6 +20,14 @@ class UserDialogs;
 void TellWriteError(QWidget* parent, UserDialogs& dialogs, std::error_code error,
                     const std::string& fileName, const QString& informative = {});
 
+// Says that a file is not overwritten; `reason` follows its name.
+void TellNotReplaced(QWidget* parent, UserDialogs& dialogs, const std::string& fileName,
+                     const QString& reason);
+
+// False, with a message, for a file that the program keeps itself.
+bool MayReplace(QWidget* parent, const app::AppState& state, UserDialogs& dialogs,
+                const std::string& fileName);
+
 // Rewrites the working file. The database in memory stays as it is when that fails.
 bool UpdateQTHFile(QWidget* parent, app::AppState& state, UserDialogs& dialogs);
 

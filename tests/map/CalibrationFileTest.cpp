@@ -59,9 +59,39 @@ TEST(InfText, HalvesToTheEvenPixel)
 
 TEST(InfText, IsWrittenInWindows1252)
 {
-    const std::string text =
-        InfText(ReferenceTable(), {.width = 10, .height = 10}, "M\u00fcnchen \u0416.jpg");
-    EXPECT_EQ(text, "00.00.00N, 000.00.00E\r\n00.00.00N, 000.00.00E\r\nM\xFCnchen ?.jpg\r\n");
+    const ImageSize size = {.width = 800, .height = 600};
+    const ReferenceTable table = TableOf(ReferencesFromInf({48.5, 48.0, 11.25, 12.25}, size), 4);
+    const std::string text = InfText(table, size, "M\u00fcnchen \u0416.jpg").value_or("");
+    EXPECT_EQ(text, "48.30.00N, 011.15.00E\r\n48.00.00N, 012.15.00E\r\nM\xFCnchen ?.jpg\r\n");
+}
+
+TEST(InfText, NoneWherePointsOnOneLineGiveNoPosition)
+{
+    const ImageSize size = {.width = 800, .height = 600};
+    EXPECT_FALSE(InfText(ReferenceTable(), size, "karte.jpg"));
+    EXPECT_FALSE(InfText(
+        TableOf({{100, 100, 10.1, 48.9}, {200, 200, 10.2, 48.8}, {300, 300, 10.3, 48.7}}, 3), size,
+        "karte.jpg"));
+}
+
+TEST(InfText, AMapAroundZeroHasPositions)
+{
+    const ImageSize size = {.width = 800, .height = 600};
+    EXPECT_EQ(InfText(TableOf(ReferencesFromInf({0.0, 0.0, 0.0, 0.0}, size), 4), size, "karte.jpg"),
+              "00.00.00N, 000.00.00E\r\n00.00.00N, 000.00.00E\r\nkarte.jpg\r\n");
+}
+
+TEST(IsInf, IsATextOfTwoLatitudesAndTwoLongitudes)
+{
+    const std::string good = "48.30.00N, 011.15.00E\r\n48.00.00N, 012.15.00W\r\nkarte.jpg\r\n";
+    EXPECT_TRUE(IsInf(good));
+    EXPECT_TRUE(IsInf("48.30.00N 48.00.00N 11.15.00E 12.15.00E"));
+    EXPECT_FALSE(IsInf(""));
+    EXPECT_FALSE(IsInf("48.30.00N, 011.15.00E"));
+    EXPECT_FALSE(IsInf("48.30.00N, 48.00.00N, 47.00.00N, 011.15.00E"));
+    EXPECT_FALSE(IsInf(good + good)) << "a list of places";
+    EXPECT_FALSE(IsInf(good + std::string(1, '\0'))) << "no text";
+    EXPECT_FALSE(IsInf(good + std::string(32767, ' ')));
 }
 
 TEST(ReadInf, ReadsWhatWasWritten)

@@ -62,6 +62,19 @@ TEST_F(DatabaseActionsTest, AWriteProtectedWorkingFileIsToldAndKept)
     EXPECT_EQ(state.database.Count(), 1U) << "the database in memory stays as it is";
 }
 
+TEST_F(DatabaseActionsTest, TheProgramsOwnFilesAreRefusedUnderAnyName)
+{
+    state.configuration.workingFile = "Relais.QTH";
+    PutFile("Relais.QTH", "kept");
+    fs::create_symlink("Relais.QTH", "Liste.txt");
+    EXPECT_TRUE(MayReplace(nullptr, state, dialogs, "Andere.QTH"));
+    EXPECT_TRUE(dialogs.said.empty());
+    EXPECT_FALSE(MayReplace(nullptr, state, dialogs, "Liste.txt"));
+    EXPECT_EQ(dialogs.said, (Messages{{{},
+                                       u"Die Datei Liste.txt benutzt das Programm selbst, sie "
+                                       u"wird nicht überschrieben!"_s}}));
+}
+
 TEST_F(DatabaseActionsTest, RecordsAreAppendedUpTo25000)
 {
     state.database = stations::CountedDatabase(24999);

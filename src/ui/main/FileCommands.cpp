@@ -6,7 +6,6 @@
 #include <QFileInfo>
 
 #include "app/FileKind.h"
-#include "app/OwnFiles.h"
 #include "base/FileBytes.h"
 #include "base/FileNames.h"
 #include "base/TimeStamp.h"
@@ -162,7 +161,7 @@ bool FileCommands::ExportMarked(const std::vector<std::size_t>& marked)
         return false;
     }
     const std::string name = Native(file);
-    if (!MayReplace(name)) {
+    if (!MayReplace(&window_, state_, dialogs_, name)) {
         return false;
     }
     const std::error_code error = stations::SaveMarked(name, state_.database, marked);
@@ -178,7 +177,7 @@ void FileCommands::WriteListing()
         return;
     }
     const std::string name = Native(file);
-    if (!MayReplace(name) || !MayListInto(name)) {
+    if (!MayReplace(&window_, state_, dialogs_, name) || !MayListInto(name)) {
         return;
     }
     const std::string text =
@@ -222,34 +221,22 @@ bool FileCommands::ImportText()
     return result.imported > 0;
 }
 
-bool FileCommands::MayReplace(const std::string& name)
-{
-    if (!app::IsOwnFile(state_, name)) {
-        return true;
-    }
-    TellNotReplaced(name, u"benutzt das Programm selbst"_s);
-    return false;
-}
-
 bool FileCommands::MayListInto(const std::string& name)
 {
+    const auto refuse = [&](const QString& reason) {
+        TellNotReplaced(&window_, dialogs_, name, reason);
+        return false;
+    };
     switch (app::KindOf(name)) {
     case app::FileKind::Missing: return true;
     case app::FileKind::Other:
         return dialogs_.AskOkCancel(&window_, u"Listing"_s, u"Datei existiert bereits. Löschen?"_s);
-    case app::FileKind::Unreadable: TellNotReplaced(name, u"lässt sich nicht lesen"_s); break;
-    case app::FileKind::Database: TellNotReplaced(name, u"ist eine Stationsdatenbank"_s); break;
-    case app::FileKind::Adjustment: TellNotReplaced(name, u"ist eine Justagedatei"_s); break;
-    case app::FileKind::Configuration: TellNotReplaced(name, u"ist eine Konfiguration"_s); break;
+    case app::FileKind::Unreadable: return refuse(u"lässt sich nicht lesen"_s);
+    case app::FileKind::Database: return refuse(u"ist eine Stationsdatenbank"_s);
+    case app::FileKind::Adjustment: return refuse(u"ist eine Justagedatei"_s);
+    case app::FileKind::Configuration: return refuse(u"ist eine Konfiguration"_s);
     }
     return false;
-}
-
-void FileCommands::TellNotReplaced(const std::string& name, const QString& reason)
-{
-    dialogs_.Inform(&window_, {},
-                    u"Die Datei "_s + Shown(name) + u' ' + reason
-                        + u", sie wird nicht überschrieben!"_s);
 }
 
 void FileCommands::Tell(ExchangeResult result, const QString& file)

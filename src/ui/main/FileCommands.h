@@ -34,12 +34,9 @@ public:
 private:
     // Writes the marked records to a file that the user chooses; false when that was not done.
     bool ExportMarked(const std::vector<std::size_t>& marked);
-    // False, with a message, for a file that the program keeps itself.
-    bool MayReplace(const std::string& name);
     // Asks about a file that exists. False, with a message, for one that holds stations, reference
     // points or settings, or that nobody can read.
     bool MayListInto(const std::string& name);
-    void TellNotReplaced(const std::string& name, const QString& reason);
     void Tell(stations::ExchangeResult result, const QString& file);
 
     QWidget& window_;

@@ -29,7 +29,7 @@ std::vector<std::string> FilesBeside(const std::string& name)
     return files;
 }
 
-std::string_view Text(const base::ByteVector& bytes)
+std::string_view Text(base::ByteView bytes)
 {
     return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
 }
@@ -49,6 +49,11 @@ MapFiles::MapFiles(app::AppState& state, MapImage& image, UserDialogs& dialogs, 
 void MapFiles::Tell(const QString& text)
 {
     dialogs_.Inform(window_, {}, text);
+}
+
+bool MapFiles::IsPicture(const std::string& name) const
+{
+    return base::SameFile(name, state_.map.imageName);
 }
 
 std::optional<std::string> MapFiles::Companion(map::Companion companion) const
@@ -107,7 +112,8 @@ void MapFiles::RememberName(const QString& file)
 void MapFiles::ReadCalibration()
 {
     map::InfBounds bounds;
-    if (const std::optional<std::string> name = Companion(map::Companion::Calibration)) {
+    const std::optional<std::string> name = Companion(map::Companion::Calibration);
+    if (name && !IsPicture(*name)) {
         const base::FileContents file = base::ReadFile(*name);
         bounds = map::ReadInf(Text(file.bytes));
         if (file.status == base::FileStatus::Unreadable) {
@@ -121,7 +127,7 @@ void MapFiles::ReadCalibration()
 void MapFiles::ReadAdjustment()
 {
     const std::optional<std::string> name = Companion(map::Companion::Adjustment);
-    if (!name) {
+    if (!name || IsPicture(*name)) {
         return;
     }
     const base::FileContents file = base::ReadFile(*name);
@@ -143,6 +149,28 @@ void MapFiles::ReadAdjustment()
     state_.map.references.Replace(std::move(adjustment.entries), adjustment.refCount);
 }
 
+bool MapFiles::MayReplaceCompanion(const std::string& name, map::Companion companion)
+{
+    if (!MayReplace(window_, state_, dialogs_, name)) {
+        return false;
+    }
+    if (IsPicture(name)) {
+        Tell(u"Die Datei "_s + Shown(name)
+             + u" ist das Bild der Karte, sie wird nicht überschrieben!"_s);
+        return false;
+    }
+    const bool calibration = companion == map::Companion::Calibration;
+    const std::optional<std::string> other =
+        Companion(calibration ? map::Companion::Adjustment : map::Companion::Calibration);
+    if (other && base::SameFile(name, *other)) {
+        Tell(u"Die Datei "_s + Shown(name) + u" ist zugleich die "_s
+             + (calibration ? u"Justagedatei"_s : u"INF-Datei"_s)
+             + u" des Bildes, sie wird nicht überschrieben!"_s);
+        return false;
+    }
+    return true;
+}
+
 std::optional<std::string> MapFiles::WritableCompanion(map::Companion companion)
 {
     if (state_.map.references.RefCount() < map::kLeastReferences) {
@@ -153,44 +181,60 @@ std::optional<std::string> MapFiles::WritableCompanion(map::Companion companion)
     if (!name) {
         Tell(u"Der Name des Bildes "_s + Shown(state_.map.imageName)
              + u" hat keine Endung: es gibt keine Datei dazu!"_s);
+        return std::nullopt;
+    }
+    if (!MayReplaceCompanion(*name, companion)) {
+        return std::nullopt;
     }
     return name;
+}
+
+void MapFiles::WriteCompanion(const std::string& name, bool (*known)(base::ByteView),
+                              base::ByteView bytes)
+{
+    const base::FileContents old = base::ReadFile(name);
+    std::error_code error;
+    if (old.status == base::FileStatus::Unreadable || !(old.bytes.empty() || known(old.bytes))) {
+        error = base::SetAside(name);
+    }
+    if (!error) {
+        error = base::WriteFile(name, bytes);
+    }
+    TellWriteError(window_, dialogs_, error, name);
 }
 
 void MapFiles::SaveAdjustment()
 {
     if (const std::optional<std::string> name = WritableCompanion(map::Companion::Adjustment)) {
-        // What cannot be read as an adjustment may be something else, or worth mending.
-        const base::FileContents old = base::ReadFile(*name);
-        const bool readable =
-            old.bytes.empty()
-            || map::UnpackAdjustment(old.bytes).state == map::AdjustmentState::Good;
-        std::error_code error;
-        if (old.status == base::FileStatus::Unreadable || !readable) {
-            error = base::SetAside(*name);
-        }
-        if (!error) {
-            error =
-                base::WriteFile(*name, map::PackAdjustment(state_.map.references, image_.Size()));
-        }
-        TellWriteError(window_, dialogs_, error, *name);
+        const auto known = [](base::ByteView bytes) {
+            return map::UnpackAdjustment(bytes).state == map::AdjustmentState::Good;
+        };
+        WriteCompanion(*name, known, map::PackAdjustment(state_.map.references, image_.Size()));
     }
 }
 
 void MapFiles::SaveCalibration()
 {
     const std::optional<std::string> name = WritableCompanion(map::Companion::Calibration);
-    if (!name
-        || (QFileInfo::exists(Shown(*name))
-            && !dialogs_.AskOkCancel(window_, u"INF Datei erzeugen"_s,
-                                     u"Datei existiert bereits. Löschen?"_s))) {
+    if (!name) {
         return;
     }
-    const std::string text = map::InfText(state_.map.references, image_.Size(),
-                                          Shown(state_.map.imageName).toStdString());
-    const auto* const bytes = reinterpret_cast<const unsigned char*>(text.data());
-    TellWriteError(window_, dialogs_, base::WriteFile(*name, base::ByteView(bytes, text.size())),
-                   *name);
+    const std::optional<std::string> text = map::InfText(state_.map.references, image_.Size(),
+                                                         Shown(state_.map.imageName).toStdString());
+    if (!text) {
+        Tell(u"Die Referenzpunkte ergeben an den Rändern des Bildes keine Position: Die Datei "_s
+             + Shown(*name) + u" wird nicht geschrieben!"_s);
+        return;
+    }
+    if (QFileInfo::exists(Shown(*name))
+        && !dialogs_.AskOkCancel(window_, u"INF Datei erzeugen"_s,
+                                 u"Datei existiert bereits. Löschen?"_s)) {
+        return;
+    }
+    const auto* const bytes = reinterpret_cast<const unsigned char*>(text->data());
+    WriteCompanion(
+        *name, [](base::ByteView old) { return map::IsInf(Text(old)); },
+        base::ByteView(bytes, text->size()));
 }
 
 void MapFiles::ReferencesFromBounds()

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "app/AppState.h"
+#include "base/Bytes.h"
 #include "map/CompanionNames.h"
 #include "ui/map/MapImage.h"
 
@@ -39,11 +40,20 @@ private:
     void ReadAdjustment();
     void RememberName(const QString& file);
 
+    bool IsPicture(const std::string& name) const;
+
     // The companion to read or replace; none for a picture name without a dot.
     std::optional<std::string> Companion(map::Companion companion) const;
 
-    // Companion for writing. None, and told, with fewer than three references or no dot.
+    // Companion for writing. None, and told, with fewer than three references or no dot, or when it
+    // is a file that no companion may replace.
     std::optional<std::string> WritableCompanion(map::Companion companion);
+    bool MayReplaceCompanion(const std::string& name, map::Companion companion);
+
+    // Writes a companion. Old bytes that `known` does not take for one are set aside: they may be
+    // something else, or worth mending.
+    void WriteCompanion(const std::string& name, bool (*known)(base::ByteView),
+                        base::ByteView bytes);
 
     void Tell(const QString& text);
 

@@ -1,5 +1,8 @@
 #include "ui/map/MapFiles.h"
 
+#include <filesystem>
+#include <utility>
+
 #include <QFile>
 
 #include "base/FileBytes.h"
@@ -27,6 +30,19 @@ protected:
         QFile file(folder.filePath(QLatin1StringView(name)));
         EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name;
         return file.readAll();
+    }
+
+    void Link(const char* target, const char* name, bool hard) const
+    {
+        const std::string from = folder.filePath(QLatin1StringView(target)).toStdString();
+        const std::string to = folder.filePath(QLatin1StringView(name)).toStdString();
+        hard ? std::filesystem::create_hard_link(from, to)
+             : std::filesystem::create_symlink(from, to);
+    }
+
+    void Remove(const char* name) const
+    {
+        EXPECT_TRUE(QFile::remove(folder.filePath(QLatin1StringView(name))));
     }
 
     bool Exists(const char* name) const
@@ -282,6 +298,112 @@ TEST_F(MapFilesTest, LoadingStartsAtTheUpperLeftCornerWithoutRoute)
     EXPECT_FALSE(Checked("MnuRast"));
     Choose("MnuRouF");
     EXPECT_EQ(state.map.clickMode, app::ClickMode::RouteStart);
+}
+
+TEST_F(MapFilesTest, CompanionThatIsALinkDoesNotReplaceTheProgramsOwnFiles)
+{
+    const QString file = MapFile(300, 200);
+    LoadMap(file);
+    Choose("MnuRefInf");
+    const QByteArray kept("die Stationen");
+    Write("WORK.QTH", kept);
+    Write("WORK.BAK", kept);
+    Write("KOMP_LOC.CFG", kept);
+    const auto own = [this](const char* name) {
+        return folder.filePath(QLatin1StringView(name)).toStdString();
+    };
+    state.configuration.workingFile = own("WORK.QTH");
+    state.session.backupName = own("WORK.BAK");
+    state.session.configurationName = own("KOMP_LOC.CFG");
+    dialogs.answers = {true, true, true, true, true, true};
+    for (const char* const name : {"WORK.QTH", "WORK.BAK", "KOMP_LOC.CFG"}) {
+        for (const bool hard : {false, true}) {
+            for (const auto& [companion, item] :
+                 {std::pair("karte.JUS", "MnuStoJ"), std::pair("karte.INF", "MnuInf")}) {
+                SCOPED_TRACE(testing::Message() << name << ' ' << companion << ' ' << hard);
+                Link(name, companion, hard);
+                dialogs.said.clear();
+                Choose(item);
+                EXPECT_EQ(Read(name), kept);
+                EXPECT_EQ(Read(companion), kept);
+                ASSERT_EQ(dialogs.said.size(), 1U);
+                EXPECT_TRUE(Said(0).contains(u"benutzt das Programm selbst"_s));
+                EXPECT_EQ(dialogs.parents.back(), form.get());
+                Remove(companion);
+            }
+        }
+    }
+}
+
+TEST_F(MapFilesTest, CompanionThatIsThePictureDoesNotReplaceIt)
+{
+    const struct {
+        const char* name;
+        const char* item;
+    } cases[] = {{"karte.JUS", "MnuStoJ"}, {"karte.inf", "MnuInf"}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        QFile::rename(MapFile(300, 200, "bild.png"), folder.filePath(QLatin1StringView(c.name)));
+        const QByteArray picture = Read(c.name);
+        dialogs.said.clear();
+        LoadMap(folder.filePath(QLatin1StringView(c.name)));
+        EXPECT_TRUE(dialogs.said.empty()) << "a picture is no damaged companion";
+        Choose("MnuRefInf");
+        dialogs.answers = {true};
+        Choose(c.item);
+        EXPECT_EQ(Read(c.name), picture);
+        ASSERT_EQ(dialogs.said.size(), 1U);
+        EXPECT_TRUE(Said(0).contains(u"ist das Bild der Karte"_s)) << Said(0).toStdString();
+        Remove(c.name);
+    }
+}
+
+TEST_F(MapFilesTest, CompanionsThatAreOneFileDoNotReplaceEachOther)
+{
+    LoadMap(MapFile(300, 200));
+    Choose("MnuRefInf");
+    Choose("MnuInf");
+    const QByteArray calibration = Read("karte.INF");
+    Link("karte.INF", "karte.JUS", false);
+    Choose("MnuStoJ");
+    ASSERT_EQ(dialogs.said.size(), 1U);
+    EXPECT_TRUE(Said(0).contains(u"karte.JUS ist zugleich die INF-Datei"_s));
+    dialogs.answers = {true};
+    Choose("MnuInf");
+    ASSERT_EQ(dialogs.said.size(), 2U);
+    EXPECT_TRUE(Said(1).contains(u"karte.INF ist zugleich die Justagedatei"_s));
+    EXPECT_EQ(Read("karte.INF"), calibration);
+}
+
+TEST_F(MapFilesTest, FileUnderTheNameOfACalibrationIsSetAside)
+{
+    LoadMap(MapFile(300, 200));
+    Choose("MnuRefInf");
+    const QByteArray foreign("[Setup]\r\nSignature=$CHICAGO$\r\n");
+    Write("karte.INF", foreign);
+    dialogs.answers = {true, true};
+    Choose("MnuInf");
+    EXPECT_EQ(Read("karte.INF.ALT"), foreign);
+    EXPECT_TRUE(Read("karte.INF").startsWith("80.00.00S"));
+    Choose("MnuInf");
+    EXPECT_FALSE(Exists("karte.INF.ALT2")) << "what the program wrote is replaced";
+}
+
+TEST_F(MapFilesTest, PointsOnOneLineDoNotWriteACalibration)
+{
+    Write("karte.INF", "48.15.00N, 011.30.00E\r\n48.00.00N, 012.00.00E\r\n");
+    const QByteArray good = Read("karte.INF");
+    LoadMap(MapFile(300, 200));
+    for (const int x : {0, 100, 200}) {
+        state.map.references.AddStation2Reference(x, x, {48.0 - 0.001 * x, 11.0 + 0.001 * x});
+    }
+    dialogs.answers = {true};
+    Choose("MnuInf");
+    EXPECT_EQ(Read("karte.INF"), good);
+    ASSERT_EQ(dialogs.said.size(), 1U) << "nothing is asked";
+    EXPECT_TRUE(Said(0).contains(u"keine Position"_s)) << Said(0).toStdString();
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files),
+              (QStringList{u"karte.INF"_s, u"karte.png"_s}));
 }
 
 TEST_F(MapFilesTest, WriteErrorIsTold)
