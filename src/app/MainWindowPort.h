@@ -24,15 +24,8 @@ public:
     // Builds the shared records of Station 1 and Station 2 from the panels.
     virtual void S1S2_Update() = 0;
 
-    // Appends a record to the database. With 25000 records it shows the message about that, changes
-    // nothing and returns false; otherwise the caller refills the list and rewrites the file.
-    virtual bool AppendRecord(const stations::StationRecord& record) = 0;
-
     // Fills the station list anew from the database.
     virtual void List1Load() = 0;
-
-    // Rewrites the working file and tells the user when that fails.
-    virtual void UpdateQTHFile() = 0;
 
     // True when line `index` of the station list is marked.
     virtual bool IsMarked(std::size_t index) const = 0;

@@ -3,13 +3,13 @@
 #include <optional>
 #include <vector>
 
+#include "ui/main/MainForm.h"
 #include "ui/main/StationListFrame.h"
 #include "ui/main/StationListView.h"
 
 namespace ui {
 
-EditCommands::EditCommands(app::AppState& state, app::MainWindowPort& window,
-                           StationListFrame& list)
+EditCommands::EditCommands(app::AppState& state, MainForm& window, StationListFrame& list)
     : state_(state), window_(window), list_(list)
 {
 }

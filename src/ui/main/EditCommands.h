@@ -3,18 +3,18 @@
 #pragma once
 
 #include "app/AppState.h"
-#include "app/MainWindowPort.h"
 #include "stations/CleanUp.h"
 
 namespace ui {
 
+class MainForm;
 class StationListFrame;
 
 // The first three sort the database by the latitude key, in which it stays, show the list in that
 // order and write the working file. With an empty database they write nothing.
 class EditCommands {
 public:
-    EditCommands(app::AppState& state, app::MainWindowPort& window, StationListFrame& list);
+    EditCommands(app::AppState& state, MainForm& window, StationListFrame& list);
 
     void RemoveEqualEntries();                    // MnuGEE
     void MarkEqual(stations::Equality equality);  // MnuDopMark, MnuGlPMark
@@ -22,7 +22,7 @@ public:
 
 private:
     app::AppState& state_;
-    app::MainWindowPort& window_;
+    MainForm& window_;
     StationListFrame& list_;
 };
 

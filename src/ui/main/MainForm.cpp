@@ -219,11 +219,6 @@ void MainForm::S1S2_Update()
     state_.shown.record = {NewRecord(0), NewRecord(1)};
 }
 
-bool MainForm::AppendRecord(const stations::StationRecord& record)
-{
-    return ui::AppendRecord(this, state_, dialogs_, record);
-}
-
 void MainForm::List1Load()
 {
     list_->List1Load();
@@ -267,7 +262,7 @@ void MainForm::SavePanel(int station)
     const std::string now = base::TimeStamp(std::time(nullptr));
     const bool room = state_.database.Count() < stations::kMaxRecords;
     if ((room && !MayStore(*this, dialogs_, station, texts, position, now))
-        || !AppendRecord(stations::BuildRecord(texts, position, now))) {
+        || !AppendRecord(this, state_, dialogs_, stations::BuildRecord(texts, position, now))) {
         return;
     }
     List1Load();

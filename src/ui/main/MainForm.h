@@ -45,10 +45,11 @@ public:
     void SetStation(int station, const stations::StationTexts& texts,
                     geo::GeoPosition position) override;
     void S1S2_Update() override;
-    bool AppendRecord(const stations::StationRecord& record) override;
     void List1Load() override;
-    void UpdateQTHFile() override;
     bool IsMarked(std::size_t index) const override;
+
+    // Rewrites the working file and tells the user when that fails.
+    void UpdateQTHFile();
 
     PictureClip* PC1;  // the pictures of the buttons
 

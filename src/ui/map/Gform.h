@@ -114,6 +114,8 @@ private:
     void FoldProperties();
 
     QString HintAt(SurfacePoint point) const;
+    bool GivesPositionAt(SurfacePoint point) const;  // false where the references give none
+    map::Refinement OutputRefinement() const;
 
     app::AppState& state_;
     MapImage& image_;

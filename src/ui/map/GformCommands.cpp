@@ -47,7 +47,7 @@ QString Gform::HintAt(SurfacePoint point) const
 {
     const std::optional<MarkerSource> marker = painter_.MarkerAt(point);
     if (!marker) {
-        return {};
+        return GivesPositionAt(point) ? QString() : u"keine Position"_s;
     }
     const auto station = [this](std::size_t k) {
         return StationHint(state_, state_.shown.record[k], state_.shown.position[k]);
@@ -68,6 +68,19 @@ QString Gform::HintAt(SurfacePoint point) const
         break;
     }
     return {};
+}
+
+bool Gform::GivesPositionAt(SurfacePoint point) const
+{
+    const map::ReferenceTable& table = state_.map.references;
+    return !state_.map.mapImage || !table.ReferenceMode()
+           || map::GivesPosition(table, view_.clipOrigin.x + point.x, view_.clipOrigin.y + point.y,
+                                 OutputRefinement());
+}
+
+map::Refinement Gform::OutputRefinement() const
+{
+    return state_.configuration.optimisedOutput ? map::Refinement::On : map::Refinement::Off;
 }
 
 void Gform::LoadMap()
@@ -111,9 +124,7 @@ void Gform::ToggleGrid(bool on)
 {
     view_.grid.reset();
     if (on) {
-        const map::Refinement refinement =
-            state_.configuration.optimisedOutput ? map::Refinement::On : map::Refinement::Off;
-        view_.grid = MakeGrid(state_.map.references, image_.Size(), refinement);
+        view_.grid = MakeGrid(state_.map.references, image_.Size(), OutputRefinement());
         if (!view_.grid) {
             Item("MnuRast")->setChecked(false);
             const OwnDialogs dialogs(*this);

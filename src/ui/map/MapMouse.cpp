@@ -1,5 +1,6 @@
 #include "ui/map/MapMouse.h"
 
+#include <cmath>
 #include <ctime>
 
 #include <QString>
@@ -7,11 +8,21 @@
 #include "base/TimeStamp.h"
 #include "geo/AngleText.h"
 #include "map/Georeference.h"
+#include "ui/DatabaseActions.h"
 #include "ui/UserDialogs.h"
 
 namespace ui {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+bool IsFinite(geo::GeoPosition position)
+{
+    return std::isfinite(position.latitude) && std::isfinite(position.longitude);
+}
+
+}  // namespace
 
 MapMouse::MapMouse(app::AppState& state, const MapImage& image, app::MainWindowPort& mainWindow,
                    UserDialogs& dialogs, QWidget* window)
@@ -35,7 +46,9 @@ geo::GeoPosition MapMouse::Convert(double tolerance, bool refined)
 
 geo::GeoPosition MapMouse::ClickedPosition()
 {
-    return Convert(map::kClickTolerance, state_.configuration.optimisedOutput);
+    const geo::GeoPosition position =
+        Convert(map::kClickTolerance, state_.configuration.optimisedOutput);
+    return IsFinite(position) ? position : geo::GeoPosition{};
 }
 
 QString MapMouse::Press(SurfacePoint point, SurfacePoint clipOrigin)
@@ -74,18 +87,25 @@ ClickResult MapMouse::AddLandmark()
     const geo::GeoPosition position = ClickedPosition();
     const base::NumberFormat& format = state_.numberFormat;
     const stations::StationTexts texts = TextsOf("LM" + format(landmarks_ + 1.0, "000"));
-    if (!mainWindow_.AppendRecord(stations::BuildRecord(texts, position, texts.date))) {
+    if (!AppendRecord(window_, state_, dialogs_,
+                      stations::BuildRecord(texts, position, texts.date))) {
         return {};
     }
     ++landmarks_;
     mainWindow_.List1Load();
-    mainWindow_.UpdateQTHFile();
+    UpdateQTHFile(window_, state_, dialogs_);
     return {.redraw = true};
 }
 
 ClickResult MapMouse::AddReference()
 {
-    switch (state_.map.references.AddStation2Reference(x_, y_, state_.shown.position[1])) {
+    const geo::GeoPosition station2 = state_.shown.position[1];
+    if (!IsFinite(station2)) {
+        dialogs_.Inform(window_, {},
+                        u"Station 2 hat keine Position: Sie wird nicht als Referenz gesetzt!"_s);
+        return {};
+    }
+    switch (state_.map.references.AddStation2Reference(x_, y_, station2)) {
     case map::AddResult::Added: return {.redraw = true, .referenceAdded = true, .nextMode = {}};
     case map::AddResult::Duplicate:
         dialogs_.Inform(window_, {}, u"Diese Referenz existiert bereits!"_s);

@@ -40,6 +40,8 @@ public:
 private:
     // The position of the captured pixel, as exact as the switch allows; sets the deviation.
     geo::GeoPosition Convert(double tolerance, bool refined);
+
+    // What a click stores: never a position that is not finite, but 0/0 in its place.
     geo::GeoPosition ClickedPosition();
 
     stations::StationTexts TextsOf(const std::string& callsign) const;

@@ -32,14 +32,7 @@ public:
         calls.emplace_back("S1S2_Update");
     }
 
-    bool AppendRecord(const stations::StationRecord& record) override
-    {
-        calls.emplace_back("AppendRecord");
-        return state_.database.Append(record);
-    }
-
     void List1Load() override { calls.emplace_back("List1Load"); }
-    void UpdateQTHFile() override { calls.emplace_back("UpdateQTHFile"); }
     bool IsMarked(std::size_t index) const override { return marked.contains(index); }
 
     std::array<stations::StationTexts, 2> panel;

@@ -32,6 +32,7 @@ protected:
         state.shown.position = {geo::GeoPosition{48.0, 11.0}, geo::GeoPosition{48.1, 11.2}};
         mainWindow.panel[0].callsign = "S1";
         mainWindow.panel[1].callsign = "S2";
+        state.configuration.workingFile = folder.filePath(QStringLiteral("WORK.QTH")).toStdString();
     }
 
     // Opens the window at a given inner size; the surface is 80 narrower and 20 lower.

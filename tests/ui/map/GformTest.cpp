@@ -286,6 +286,19 @@ TEST_F(GformTest, OwnMessageBoxIsNoActivation)
     Choose("MnuRouF");
     EXPECT_EQ(state.map.clickMode, app::ClickMode::RouteContinue) << "the route is still there";
 
+    // The box of a landmark that cannot be written.
+    ASSERT_TRUE(QDir(folder.path()).mkdir(u"WORK.QTH"_s));
+    Choose("MnuAddLand");
+    mainWindow.calls.clear();
+    ClickAt(10, 10);
+    ASSERT_EQ(boxes.said.size(), 2U);
+    form->activateWindow();
+    ASSERT_TRUE(
+        QTest::qWaitFor([this] { return QGuiApplication::focusWindow() == form->windowHandle(); }));
+    EXPECT_EQ(mainWindow.calls, std::vector<std::string>{"List1Load"});
+    EXPECT_EQ(form->HScroll1->value(), 50);
+    mainWindow.calls.clear();
+
     LeaveAndComeBack();
     EXPECT_EQ(mainWindow.calls, std::vector<std::string>{"S1S2_Update"});
     EXPECT_EQ(form->HScroll1->value(), 0);

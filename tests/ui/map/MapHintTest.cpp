@@ -105,6 +105,26 @@ TEST_F(HintTest, RestingOnAMarkerTellsWhoseItIs)
     EXPECT_TRUE(HintAt({100, 100}).isEmpty());
 }
 
+TEST_F(HintTest, RestingWhereTheReferencesGiveNoPositionTellsSo)
+{
+    Open(880, 620);
+    EXPECT_TRUE(HintAt({200, 200}).isEmpty()) << "the polar view";
+    LoadMap(MapFile(400, 300));
+    EXPECT_TRUE(HintAt({200, 200}).isEmpty()) << "the edges give one";
+    Choose("MnuS2Ref");
+    for (const int x : {100, 150, 250}) {  // on one line
+        state.shown.position[1] = {48.0 - 0.001 * x, 11.0 + 0.001 * x};
+        ClickAt(x, x);
+        Picture();
+        EXPECT_TRUE(HintAt({300, 50}).contains(u"keine Position"_s)) << x;
+        EXPECT_TRUE(HintAt({x, x}).contains(u"Referenzpunkt"_s)) << "a marker comes first";
+    }
+    state.shown.position[1] = {48.0, 11.35};
+    ClickAt(350, 0);
+    Picture();
+    EXPECT_TRUE(HintAt({300, 50}).isEmpty());
+}
+
 TEST_F(HintTest, RestingOnAReferenceTellsItsNumber)
 {
     Open(880, 620);

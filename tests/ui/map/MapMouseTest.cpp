@@ -1,10 +1,13 @@
 #include "ui/map/MapMouse.h"
 
+#include <limits>
+
 #include <QRegularExpression>
 
 #include "base/NumberText.h"
 #include "geo/AngleText.h"
 #include "map/Georeference.h"
+#include "stations/WorkingFile.h"
 #include "ui/map/GformFixture.h"
 
 namespace ui {
@@ -38,6 +41,11 @@ protected:
     }
 
     void SetStation2(geo::GeoPosition position) { state.shown.position[1] = position; }
+
+    stations::StationDatabase Written() const
+    {
+        return stations::ReadDatabase(state.configuration.workingFile).database;
+    }
 
     // A reference where the map really has that position.
     void AddReference(int x, int y)
@@ -172,8 +180,8 @@ TEST_F(MapMouseTest, LandmarksAreNumberedInTheOrderOfTheirClicks)
     Choose("MnuAddLand");
     mainWindow.calls.clear();
     ClickAt(512, 300);
-    EXPECT_EQ(mainWindow.calls,
-              (std::vector<std::string>{"AppendRecord", "List1Load", "UpdateQTHFile"}));
+    EXPECT_EQ(mainWindow.calls, (std::vector<std::string>{"List1Load"}));
+    EXPECT_EQ(Written().Count(), 1U);
     ClickAt(100, 200);
     ASSERT_EQ(state.database.Count(), 2U);
     const stations::StationRecord& first = state.database[0];
@@ -206,10 +214,54 @@ TEST_F(MapMouseTest, NoLandmarkInAFullDatabase)
     mainWindow.calls.clear();
     ClickAt(10, 10);
     EXPECT_EQ(state.database.Count(), stations::kMaxRecords);
-    EXPECT_EQ(mainWindow.calls, std::vector<std::string>{"AppendRecord"});
+    EXPECT_TRUE(mainWindow.calls.empty());
+    ASSERT_EQ(dialogs.said.size(), 1U);
+    EXPECT_TRUE(dialogs.said[0].text.startsWith(u"Fehler: Zu viele Datensätze."_s));
+    EXPECT_EQ(dialogs.parents[0], form.get()) << "the box belongs to the map";
     state.database.Truncate(10);
     ClickAt(10, 10);
     EXPECT_EQ(state.database[10].Text(stations::Field::Callsign), "LM001") << "not counted";
+}
+
+TEST_F(MapMouseTest, WriteErrorOfALandmarkIsToldByTheMap)
+{
+    ASSERT_TRUE(QDir(folder.path()).mkdir(u"WORK.QTH"_s));
+    Choose("MnuAddLand");
+    ClickAt(10, 10);
+    ASSERT_EQ(dialogs.said.size(), 1U);
+    EXPECT_EQ(dialogs.said[0].title, u"Schreibfehler"_s);
+    EXPECT_EQ(dialogs.parents[0], form.get()) << "the main window would rise with its box";
+    EXPECT_EQ(state.database.Count(), 1U);
+}
+
+TEST_F(MapMouseTest, NoClickStoresAPositionThatIsNotFinite)
+{
+    state.map.edges.upper = std::numeric_limits<double>::infinity();
+    Choose("MnuSet1");
+    ClickAt(512, 300);
+    EXPECT_EQ(state.shown.position[0], geo::GeoPosition{});
+    EXPECT_EQ(mainWindow.panel[0].place, "X/Y: 512 300");
+    Choose("MnuAddLand");
+    ClickAt(512, 300);
+    ASSERT_EQ(state.database.Count(), 1U);
+    EXPECT_EQ(state.database[0].Position(), geo::GeoPosition{});
+}
+
+TEST_F(MapMouseTest, Station2WithoutAPositionIsNoReference)
+{
+    Choose("MnuS2Ref");
+    const double infinity = std::numeric_limits<double>::infinity();
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    for (const geo::GeoPosition position :
+         {geo::GeoPosition{infinity, 11.0}, geo::GeoPosition{48.0, nan}}) {
+        dialogs.said.clear();
+        SetStation2(position);
+        ClickAt(50, 60);
+        EXPECT_EQ(state.map.references.RefCount(), 0);
+        EXPECT_FALSE(state.map.references.ReferenceMode());
+        ASSERT_EQ(dialogs.said.size(), 1U);
+        EXPECT_TRUE(dialogs.said[0].text.contains(u"Station 2 hat keine Position"_s));
+    }
 }
 
 TEST_F(MapMouseTest, Station2BecomesAReferencePoint)
