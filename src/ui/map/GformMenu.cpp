@@ -228,13 +228,15 @@ void Gform::SetClickMode(app::ClickMode mode)
     }
     const bool acts = state_.map.mapImage && mode != app::ClickMode::Nop;
     Picture1->setCursor(acts ? Qt::CrossCursor : Qt::ArrowCursor);
+    Redraw();
 }
 
 void Gform::SetLabelChoice(std::int16_t choice)
 {
     state_.configuration.labelChoice = choice;
+    const std::int16_t counted = CountedLabelChoice(choice);
     for (std::int16_t i = 0; i < static_cast<std::int16_t>(std::size(kLabelItems)); ++i) {
-        Item(kLabelItems[i])->setChecked(i == choice);
+        Item(kLabelItems[i])->setChecked(i == counted);
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QImageReader>
 
 #include "base/FileBytes.h"
 #include "base/FileNames.h"
@@ -39,6 +40,22 @@ QString SizeText(map::ImageSize size)
     return QString::number(size.width) + u" x "_s + QString::number(size.height);
 }
 
+// Behind the usual pictures and all files, what else can be read here.
+QString PictureFilter()
+{
+    const QString usual = u"Bilder (*.jpg;*.gif)|*.jpg;*.jpeg;*.gif|alle Dateien (*.*)|*.*"_s;
+    const QString portable = u"|PNG-Bilder (*.png)|*.png"_s;
+    QStringList others;
+    for (const QByteArray& format : QImageReader::supportedImageFormats()) {
+        const QString pattern = u"*."_s + QString::fromLatin1(format);
+        if (!QStringList{u"*.jpg"_s, u"*.jpeg"_s, u"*.gif"_s, u"*.png"_s}.contains(pattern)) {
+            others << pattern;
+        }
+    }
+    return usual + portable
+           + (others.isEmpty() ? QString() : u"|weitere Bilder|"_s + others.join(u';'));
+}
+
 }  // namespace
 
 MapFiles::MapFiles(app::AppState& state, MapImage& image, UserDialogs& dialogs, QWidget* window)
@@ -64,10 +81,10 @@ std::optional<std::string> MapFiles::Companion(map::Companion companion) const
 
 bool MapFiles::Load()
 {
-    const QString file = dialogs_.OpenFile(
-        window_, {.title = u"Landkarte laden"_s,
-                  .filter = u"Bilder (*.jpg;*.gif)|*.jpg;*.jpeg;*.gif|alle Dateien (*.*)|*.*"_s,
-                  .folder = Shown(state_.configuration.textSetting3)});
+    const QString file =
+        dialogs_.OpenFile(window_, {.title = u"Landkarte laden"_s,
+                                    .filter = PictureFilter(),
+                                    .folder = Shown(state_.configuration.textSetting3)});
     if (file.isEmpty() || !LoadPicture(file)) {
         return false;
     }

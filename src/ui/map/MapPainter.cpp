@@ -20,14 +20,14 @@ namespace {
 constexpr std::size_t kLabelsPerRecord = 3;
 constexpr std::size_t kFewLabels = 10'000;
 
-// The field of a record that labels its marker. A choice that does not exist is the callsign.
+constexpr std::array kLabelFields = {stations::Field::Callsign, stations::Field::Name,
+                                     stations::Field::Place, stations::Field::Frequency,
+                                     stations::Field::Remark};
+
+// The field of a record that labels its marker.
 stations::Field LabelField(std::int16_t labelChoice)
 {
-    constexpr std::array kFields = {stations::Field::Callsign, stations::Field::Name,
-                                    stations::Field::Place, stations::Field::Frequency,
-                                    stations::Field::Remark};
-    const bool exists = labelChoice >= 0 && static_cast<std::size_t>(labelChoice) < kFields.size();
-    return kFields[exists ? static_cast<std::size_t>(labelChoice) : 0];
+    return kLabelFields[static_cast<std::size_t>(CountedLabelChoice(labelChoice))];
 }
 
 // Without the bits of a picture of the same size and form having to be made anew.
@@ -37,6 +37,12 @@ void CopyPicture(const QImage& from, QImage& to)
 }
 
 }  // namespace
+
+std::int16_t CountedLabelChoice(std::int16_t stored)
+{
+    const bool exists = stored >= 0 && static_cast<std::size_t>(stored) < kLabelFields.size();
+    return exists ? stored : std::int16_t{0};
+}
 
 MapPainter::MapPainter(const app::AppState& state, const MapImage& image,
                        const app::MainWindowPort& mainWindow)

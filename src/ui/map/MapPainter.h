@@ -25,6 +25,9 @@ namespace ui {
 inline constexpr QColor kMapInk{0xCC, 0xCC, 0xCC};
 inline constexpr QColor kPolarInk{0xEE, 0xEE, 0xEE};
 
+// What a stored label choice counts as: one that does not exist as 0, the callsign.
+std::int16_t CountedLabelChoice(std::int16_t stored);
+
 // Whom a marker stands for.
 struct MarkerSource {
     enum class Kind : std::uint8_t { Record, Station1, Station2, Reference };

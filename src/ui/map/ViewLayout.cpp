@@ -33,15 +33,14 @@ ViewLayout ImageLayout(Extent inner, Extent image)
         changed = false;
         if (image.width > area.width && !layout.horizontalBar) {
             layout.horizontalBar = true;
-            area.height -= kBarThickness;
+            area = AtLeastSmallest({.width = area.width, .height = area.height - kBarThickness});
             changed = true;
         }
         if (image.height > area.height && !layout.verticalBar) {
             layout.verticalBar = true;
-            area.width -= kBarThickness;
+            area = AtLeastSmallest({.width = area.width - kBarThickness, .height = area.height});
             changed = true;
         }
-        area = AtLeastSmallest(area);
     }
     area.width = std::min(area.width, image.width);
     area.height = std::min(area.height, image.height);

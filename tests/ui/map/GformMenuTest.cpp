@@ -140,6 +140,19 @@ TEST_F(GformMenuTest, LabelChoiceChecksExactlyItsItem)
     }
 }
 
+TEST_F(GformMenuTest, LabelChoiceThatDoesNotExistIsShownAsTheCallsign)
+{
+    for (const int stored : {-1, 5, 32767, -32768}) {
+        state.configuration.labelChoice = static_cast<std::int16_t>(stored);
+        Open();
+        EXPECT_TRUE(Checked("MnuRZ1")) << stored;
+        for (const char* const other : {"MnuRZ2", "MnuRZ3", "MnuRZ4", "MnuRZ5"}) {
+            EXPECT_FALSE(Checked(other)) << stored;
+        }
+        EXPECT_EQ(state.configuration.labelChoice, stored) << "nobody has chosen";
+    }
+}
+
 TEST_F(GformMenuTest, ClickModeChecksExactlyItsItem)
 {
     Open();

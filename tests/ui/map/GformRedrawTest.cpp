@@ -40,6 +40,20 @@ TEST_F(GformRedrawTest, ATogglingItemChangesThePictureAndBringsItBack)
     EXPECT_TRUE(dialogs.said.empty());
 }
 
+TEST_F(GformRedrawTest, AClickModeRedraws)
+{
+    OpenWithMap();
+    for (const char* const item : {"MnuSet1", "MnuNop", "MnuRouF"}) {
+        SCOPED_TRACE(item);
+        const QImage before = Picture();
+        const double step = 0.02 * static_cast<double>(state.database.Count());
+        AddRecord({48.05, 11.0 + step}, "NEU");
+        ASSERT_EQ(Picture(), before) << "nothing redraws by itself";
+        Choose(item);
+        EXPECT_NE(Picture(), before);
+    }
+}
+
 TEST_F(GformRedrawTest, MarkedAndUnmarkedStationsHaveAnItemEach)
 {
     OpenWithMap();

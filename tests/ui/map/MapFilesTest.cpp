@@ -4,6 +4,7 @@
 #include <utility>
 
 #include <QFile>
+#include <QImageReader>
 
 #include "base/FileBytes.h"
 #include "map/AdjustmentFile.h"
@@ -62,11 +63,26 @@ TEST_F(MapFilesTest, LoadDialogOffersPicturesAndStartsInTheLastFolder)
     state.configuration.textSetting3 = "/tmp";
     Choose("MnuGLoad");  // cancelled
     ASSERT_EQ(dialogs.asked.size(), 1U);
-    EXPECT_EQ(dialogs.asked[0].filter,
-              u"Bilder (*.jpg;*.gif)|*.jpg;*.jpeg;*.gif|alle Dateien (*.*)|*.*"_s);
+    EXPECT_TRUE(dialogs.asked[0].filter.startsWith(
+        u"Bilder (*.jpg;*.gif)|*.jpg;*.jpeg;*.gif|alle Dateien (*.*)|*.*|"_s));
     EXPECT_EQ(dialogs.asked[0].folder, u"/tmp"_s);
     EXPECT_FALSE(state.map.mapImage);
     EXPECT_TRUE(image.Empty());
+}
+
+TEST_F(MapFilesTest, LoadDialogOffersEveryPictureThatCanBeRead)
+{
+    Choose("MnuGLoad");
+    const QStringList parts = dialogs.asked.at(0).filter.split(u'|');
+    ASSERT_EQ(parts.size() % 2, 0);
+    QStringList patterns;
+    for (qsizetype i = 1; i < parts.size(); i += 2) {
+        patterns << parts[i].split(u';');
+    }
+    for (const QByteArray& format : QImageReader::supportedImageFormats()) {
+        EXPECT_EQ(patterns.count(u"*."_s + QString::fromLatin1(format)), 1) << format.data();
+    }
+    EXPECT_EQ(parts.indexOf(u"*.png"_s), 5) << "behind the usual ones";
 }
 
 TEST_F(MapFilesTest, LoadingRemembersNameAndFolder)

@@ -48,6 +48,10 @@ TEST(ImageLayout, GivesEveryDimensionItsBarOrTheImageSize)
          {780, 601},
          {{780, 600}, false, true}},
         {"a tiny window", {10, 10}, {300, 300}, {{20, 20}, true, true}},
+        {"what a bar leaves counts as twenty units, in which the image is not too high",
+         {880, 50},
+         {2000, 15},
+         {{800, 15}, true, false}},
         {"an image below twenty units", {880, 620}, {7, 5}, {{7, 5}, false, false}},
     };
     for (const auto& c : cases) {
