@@ -149,14 +149,19 @@ bool Gform::eventFilter(QObject* watched, QEvent* event)
 
 void Gform::Activate()
 {
-    if (state_.map.mapImage) {
+    const SurfacePoint shown = view_.clipOrigin;
+    const std::optional<std::size_t> pressed = activatingPress_.PointsBeforePress();
+    if (state_.map.mapImage && !pressed) {
         HScroll1->setValue(0);
         VScroll1->setValue(0);
     }
     mainWindow_.S1S2_Update();
     Layout();
-    view_.route.Clear();
+    view_.route.RemoveFirst(pressed.value_or(view_.route.Count()));
     Redraw();
+    if (!pressed) {
+        activatingPress_.Activated(shown);
+    }
 }
 
 void Gform::Layout()
@@ -204,6 +209,7 @@ void Gform::LayoutStrip(int left)
 void Gform::ShowClip()
 {
     view_.clipOrigin = {.x = HScroll1->value(), .y = VScroll1->value()};
+    activatingPress_.ForgetClip();
     Redraw();
 }
 

@@ -11,6 +11,7 @@
 
 #include "app/AppState.h"
 #include "app/MainWindowPort.h"
+#include "ui/map/ActivatingPress.h"
 #include "ui/map/MapFiles.h"
 #include "ui/map/MapImage.h"
 #include "ui/map/MapMouse.h"
@@ -129,7 +130,8 @@ private:
 
     int ownDialogs_ = 0;             // dialogs and message boxes of this window that are open
     bool leftForOwnDialog_ = false;  // the window gave its activation to one of them
-    QPoint turned_;                  // of the wheel, not yet acted upon
+    ActivatingPress activatingPress_;
+    QPoint turned_;  // of the wheel, not yet acted upon
     bool propertiesOpen_ = false;
 };
 

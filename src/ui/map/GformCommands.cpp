@@ -20,9 +20,16 @@ using namespace Qt::StringLiterals;
 
 void Gform::Press(SurfacePoint point)
 {
-    if (state_.map.mapImage) {
-        setWindowTitle(mouse_.Press(point, view_.clipOrigin));
+    if (!state_.map.mapImage) {
+        return;
     }
+    if (!isActiveWindow()) {
+        activatingPress_.PressedInactive(view_.route.Count());
+    } else if (const std::optional<SurfacePoint> clip = activatingPress_.ClipPressed()) {
+        HScroll1->setValue(clip->x);
+        VScroll1->setValue(clip->y);
+    }
+    setWindowTitle(mouse_.Press(point, view_.clipOrigin));
 }
 
 void Gform::Click()

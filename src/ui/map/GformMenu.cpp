@@ -71,7 +71,10 @@ void Gform::AddItems(QMenu* menu, std::initializer_list<MenuItem> items)
         }
         QAction* const action = Named(menu->addAction(item.caption), name);
         action->setCheckable(item.checkable);
-        connect(action, &QAction::triggered, this, item.command);
+        connect(action, &QAction::triggered, this, [this, command = item.command](bool on) {
+            activatingPress_.ForgetClip();
+            command(on);
+        });
     }
 }
 

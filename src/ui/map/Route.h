@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -32,6 +33,17 @@ public:
         points_ = {{Pen::Up, {.latitude = 48.4, .longitude = 11.4}},
                    {Pen::Down, {.latitude = 48.4, .longitude = 11.6}}};
         count_ = 0;
+    }
+
+    // Removes the first `count` points, at most all.
+    void RemoveFirst(std::size_t count)
+    {
+        const auto left = Points().subspan(std::min(count, count_));
+        const std::vector<RoutePoint> kept(left.begin(), left.end());
+        Clear();
+        for (const RoutePoint& point : kept) {
+            Append(point);
+        }
     }
 
     void Append(RoutePoint point)
