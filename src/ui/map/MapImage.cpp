@@ -7,6 +7,10 @@
 #include <QImageReader>
 #include <QPainter>
 
+#include "base/FileBytes.h"
+#include "map/PictureFile.h"
+#include "ui/FileNameText.h"
+
 namespace ui {
 
 namespace {
@@ -65,8 +69,9 @@ PictureStatus MapImage::Load(const QString& file, std::uint64_t freeMemory)
     reader.setDecideFormatFromContent(true);
     // The library's own limit is far below a scanned map; the free memory is the limit here.
     QImageReader::setAllocationLimit(0);
+    const bool canRead = reader.canRead();  // some say no once they were asked for the size
     const QSize size = reader.size();
-    if (!reader.canRead() || size.isEmpty()) {
+    if (!canRead || size.isEmpty()) {
         return PictureStatus::Unreadable;
     }
     if (!map::CanBeGeoreferenced({.width = size.width(), .height = size.height()})) {
@@ -74,6 +79,11 @@ PictureStatus MapImage::Load(const QString& file, std::uint64_t freeMemory)
     }
     if (BytesNeeded(reader) > freeMemory) {
         return PictureStatus::NoMemory;
+    }
+    // Some decoders fill up what is missing and say nothing.
+    base::InputFile bytes(Native(file));
+    if (!map::IsWholePicture(bytes)) {
+        return PictureStatus::Unreadable;
     }
     QImage picture = reader.read();
     if (picture.isNull() || picture.size() != size) {

@@ -16,7 +16,7 @@ namespace ui {
 
 enum class PictureStatus {
     Loaded,
-    Unreadable,  // missing, or no picture that can be read
+    Unreadable,  // missing, cut off, or no picture that can be read
     TooLarge,    // an edge is longer than map::kLongestEdge
     NoMemory,    // larger than the memory that is free
 };
@@ -27,8 +27,8 @@ std::uint64_t FreeMemory();
 
 class MapImage {
 public:
-    // Loads a JPEG, GIF or PNG file. Unless the result is Loaded, the old picture stays; until the
-    // new one is whole, both are in memory.
+    // Loads a JPEG, GIF or PNG file, or another that Qt reads. Unless the result is Loaded, the old
+    // picture stays; until the new one is whole, both are in memory.
     PictureStatus Load(const QString& file, std::uint64_t freeMemory = FreeMemory());
 
     // Takes a picture over. One with transparent parts gets a white ground. False, and the old

@@ -263,7 +263,16 @@ TEST_F(MapFilesTest, PictureThatCannotBeLoadedLeavesEverythingAsItWas)
     cut.fill(Qt::red);
     ASSERT_TRUE(cut.save(folder.filePath(u"kurz.png"_s)));
     Write("kurz.png", Read("kurz.png").left(60));
-    for (const char* const name : {"text.jpg", "leer.gif", "kurz.png", "fehlt.jpg"}) {
+    for (const char* const name : {"kurz.jpg", "kurz.bmp"}) {
+        ASSERT_TRUE(cut.save(folder.filePath(QLatin1StringView(name))));
+        const QByteArray whole = Read(name);
+        Write(name, whole.left(whole.size() * 9 / 10));
+    }
+    // One white pixel, and no trailer.
+    Write("kurz.gif", QByteArray::fromHex("47494638396101000100800000ffffff00000021f90400000000002c"
+                                          "0000000001000100000202440100"));
+    for (const char* const name :
+         {"text.jpg", "leer.gif", "kurz.png", "kurz.jpg", "kurz.bmp", "kurz.gif", "fehlt.jpg"}) {
         SCOPED_TRACE(name);
         dialogs.said.clear();
         LoadMap(folder.filePath(QLatin1StringView(name)));

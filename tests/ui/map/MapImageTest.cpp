@@ -1,5 +1,10 @@
 #include "ui/map/MapImage.h"
 
+#include <vector>
+
+#include <QBuffer>
+#include <QImageReader>
+#include <QImageWriter>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -92,6 +97,115 @@ TEST(MapImage, PictureThatIsConvertedNeedsRoomForBothForms)
     constexpr std::uint64_t kDecoding = std::uint64_t{64} << 20U;
     EXPECT_EQ(image.Load(file, kDecoding + 7'999'999), PictureStatus::NoMemory);
     EXPECT_EQ(image.Load(file, kDecoding + 8'000'000), PictureStatus::Loaded);
+}
+
+// A picture of 8 x 8 pixels in 128 greys whose codes are a byte each.
+QByteArray GifBytes()
+{
+    QByteArray bytes = QByteArray::fromHex("47494638396108000800860000");
+    for (int grey = 0; grey < 128; ++grey) {
+        bytes.append(3, static_cast<char>(2 * grey));
+    }
+    bytes += QByteArray::fromHex("2c00000000080008000007");
+    bytes += static_cast<char>(66);
+    bytes += static_cast<char>(0x80);
+    for (int pixel = 0; pixel < 64; ++pixel) {
+        bytes += static_cast<char>(2 * pixel);
+    }
+    return bytes + QByteArray::fromHex("81003b");
+}
+
+struct PictureBytes {
+    const char* what;
+    QByteArray bytes;
+};
+
+QByteArray Saved(const QImage& picture, const char* format, bool progressive = false)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QImageWriter writer(&buffer, format);
+    writer.setProgressiveScanWrite(progressive);
+    EXPECT_TRUE(writer.write(picture)) << format;
+    return buffer.data();
+}
+
+std::vector<PictureBytes> PicturesOfEveryKind()
+{
+    const QImage colours = Chequered(31, 23);
+    const QImage grey = colours.convertToFormat(QImage::Format_Grayscale8);
+    const QImage palette = colours.convertToFormat(QImage::Format_Indexed8);
+    const QImage lines = colours.convertToFormat(QImage::Format_Mono);
+    const QByteArray xbm = Saved(lines, "xbm");
+    return {
+        {"JPEG", Saved(colours, "jpg")},
+        {"grey JPEG", Saved(grey, "jpg")},
+        {"progressive JPEG", Saved(colours, "jpg", true)},
+        {"GIF", GifBytes()},
+        {"BMP", Saved(colours, "bmp")},
+        {"palette BMP", Saved(palette, "bmp")},
+        {"BMP of lines", Saved(lines, "bmp")},
+        {"XBM", xbm.left(xbm.lastIndexOf('}') + 1)},
+        {"PPM", Saved(colours, "ppm")},
+        {"PGM", Saved(grey, "pgm")},
+        {"PBM", Saved(lines, "pbm")},
+        {"ICO", Saved(colours, "ico")},
+    };
+}
+
+void WriteBytes(const QString& name, const QByteArray& bytes)
+{
+    QFile file(name);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+TEST(MapImage, FileThatWasCutOffAnywhereIsUnreadable)
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(u"karte"_s);
+    for (const PictureBytes& picture : PicturesOfEveryKind()) {
+        SCOPED_TRACE(picture.what);
+        MapImage image;
+        image.Set(Chequered(10, 10));
+        for (qsizetype length = 0; length < picture.bytes.size(); ++length) {
+            WriteBytes(file, picture.bytes.left(length));
+            ASSERT_EQ(image.Load(file), PictureStatus::Unreadable) << length;
+        }
+        EXPECT_EQ(image.Clip({0, 0, 10, 10}), Chequered(10, 10)) << "the old picture stays";
+        WriteBytes(file, picture.bytes + "something behind it");
+        EXPECT_EQ(image.Load(file), PictureStatus::Loaded);
+        WriteBytes(file, picture.bytes);
+        EXPECT_EQ(image.Load(file), PictureStatus::Loaded);
+        EXPECT_NE(image.Size(), (map::ImageSize{10, 10}));
+    }
+}
+
+TEST(MapImage, EveryFormatThatCanBeWrittenHereCanBeLoaded)
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(u"karte"_s);
+    for (const QByteArray& format : QImageWriter::supportedImageFormats()) {
+        if (QImageReader::supportedImageFormats().contains(format)) {
+            WriteBytes(file, Saved(Chequered(31, 23), format));
+            MapImage image;
+            EXPECT_EQ(image.Load(file), PictureStatus::Loaded) << format.data();
+        }
+    }
+}
+
+TEST(MapImage, PngThatLacksNoPixelMayLackItsLastBytes)
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(u"karte.png"_s);
+    const QByteArray whole = Saved(Chequered(31, 23), "png");
+    for (qsizetype length = 0; length < whole.size(); ++length) {
+        WriteBytes(file, whole.left(length));
+        MapImage image;
+        if (image.Load(file) == PictureStatus::Loaded) {
+            EXPECT_EQ(image.Clip({0, 0, 31, 23}), Chequered(31, 23)) << length;
+        }
+    }
 }
 
 TEST(FreeMemory, IsKnown)
