@@ -21,6 +21,7 @@ int main(int argc, char** argv)
 {
     const QApplication application(argc, argv);
     QCoreApplication::setApplicationName(u"Kompasso"_s);
+    QCoreApplication::setApplicationVersion(QLatin1StringView(KOMPASSO_VERSION));
     ui::InstallGermanTexts();
     ui::QtDialogs dialogs;
 

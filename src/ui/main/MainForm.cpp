@@ -41,7 +41,7 @@ MainForm::MainForm(app::AppState& state, UserDialogs& dialogs)
     : PC1(Named(new PictureClip(this), u"PC1"_s)), state_(state), dialogs_(dialogs)
 {
     setObjectName(u"MainForm"_s);
-    setWindowTitle(u"KOMPASSO V0.28"_s);
+    setWindowTitle(u"KOMPASSO V"_s + QLatin1StringView(KOMPASSO_SERIES));
     AddMenus();
 
     // On a screen that is too small for the contents every field stays within reach.
