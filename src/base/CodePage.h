@@ -1,4 +1,6 @@
-// Windows-1252, the code page of the texts in the files, to and from UTF-8.
+// Windows-1252, the code page of the texts in the files, to and from UTF-8. The table is the one
+// that the Unicode Consortium publishes for it; the bytes that it leaves undefined are read as the
+// WHATWG Encoding Standard does. No conversion fails.
 
 #pragma once
 

@@ -1,5 +1,5 @@
-// Maidenhead locator: six characters that name a subsquare of 1/12 degree of longitude by
-// 1/24 degree of latitude.
+// Maidenhead locator of the IARU (Maidenhead, 1980): six characters that name a subsquare of 1/12
+// degree of longitude by 1/24 degree of latitude.
 //
 // Reading never fails. A character that is missing or out of place counts as 0, so that half a
 // locator already names a point and a field can be decoded while it is being typed.

@@ -1,6 +1,7 @@
 // UTM: 6-degree zones on GRS80, scale 0.9996.
 //
-// No false northing: southern positions have negative northings.
+// The series are those of J. C. B. Redfearn, "Transverse Mercator Formulae", Empire Survey Review
+// 69 (1948). No false northing: southern positions have negative northings.
 
 #pragma once
 
@@ -20,7 +21,8 @@ struct UtmPosition {
 // globe and for positions that are not; the zone is 0 when the longitude is not a number.
 UtmPosition GeoUTM(GeoPosition position);
 
-// The inverse. `zone` is taken as it was typed and need not be a whole number.
+// The inverse, of metres as typed, to 1 mm where GeoUTM is. `zone` is taken as it was typed and
+// need not be a whole number. Not finite far outside the zone.
 GeoPosition UtmToGeo(double zone, double easting, double northing);
 
 }  // namespace geo
