@@ -14,8 +14,8 @@ using namespace std::string_literals;
 std::string Number(std::int64_t value, int length)
 {
     std::string bytes;
-    for (int i = 0; i < length; ++i) {
-        bytes += static_cast<char>(value >> (8 * i) & 255);
+    for (int i = 0; i < length; ++i, value >>= 8) {
+        bytes += static_cast<char>(value & 255);
     }
     return bytes;
 }
