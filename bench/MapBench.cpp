@@ -15,10 +15,10 @@
 #include "ThinPlateSpline.h"
 #include "map/CalibrationFile.h"
 #include "map/Georeference.h"
-#include "map/MapMath.h"
 #include "map/ReferenceTable.h"
 #include "map/SampleMaps.h"
-#include "map/TriangleBlend.h"
+#include "map/blend/MapMath.h"
+#include "map/blend/TriangleBlend.h"
 
 namespace bench {
 namespace {

@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "ThinPlateSpline.h"
-#include "map/ForwardBlend.h"
-#include "map/MapMath.h"
 #include "map/UtmSheet.h"
+#include "map/blend/ForwardBlend.h"
+#include "map/blend/MapMath.h"
 
 namespace bench {
 

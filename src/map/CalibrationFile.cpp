@@ -10,7 +10,7 @@
 #include "base/CodePage.h"
 #include "base/NumberText.h"
 #include "base/Rounding.h"
-#include "map/MapMath.h"
+#include "map/blend/MapMath.h"
 
 namespace map {
 

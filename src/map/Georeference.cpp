@@ -1,6 +1,6 @@
 #include "map/Georeference.h"
 
-#include "map/MapMath.h"
+#include "map/blend/MapMath.h"
 
 namespace map {
 

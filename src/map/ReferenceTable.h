@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "geo/GeoPosition.h"
-#include "map/ForwardBlend.h"
-#include "map/InverseBlend.h"
 #include "map/ReferencePoint.h"
+#include "map/blend/ForwardBlend.h"
+#include "map/blend/InverseBlend.h"
 
 namespace map {
 

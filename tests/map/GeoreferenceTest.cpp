@@ -6,9 +6,9 @@
 
 #include <gtest/gtest.h>
 
-#include "map/MapMath.h"
 #include "map/SampleMaps.h"
-#include "map/TriangleBlend.h"
+#include "map/blend/MapMath.h"
+#include "map/blend/TriangleBlend.h"
 
 namespace map {
 namespace {

@@ -4,9 +4,9 @@
 
 #include "geo/Distance.h"
 #include "geo/DistanceText.h"
-#include "map/ForwardBlend.h"
-#include "map/MapMath.h"
-#include "map/TriangleSurvey.h"
+#include "map/blend/ForwardBlend.h"
+#include "map/blend/MapMath.h"
+#include "map/blend/TriangleSurvey.h"
 
 namespace ui {
 

@@ -7,8 +7,8 @@
 #include <span>
 #include <vector>
 
-#include "map/PlanePoint.h"
 #include "map/ReferencePoint.h"
+#include "map/blend/PlanePoint.h"
 
 namespace map {
 

@@ -1,4 +1,4 @@
-#include "map/ParallelBases.h"
+#include "map/blend/ParallelBases.h"
 
 #include <algorithm>
 #include <array>

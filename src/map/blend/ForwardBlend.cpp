@@ -1,13 +1,13 @@
-#include "map/ForwardBlend.h"
+#include "map/blend/ForwardBlend.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <limits>
 
-#include "map/Elimination.h"
-#include "map/ForwardSums.h"
-#include "map/Moments.h"
+#include "map/blend/Elimination.h"
+#include "map/blend/ForwardSums.h"
+#include "map/blend/Moments.h"
 
 namespace map {
 

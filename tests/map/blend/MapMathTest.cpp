@@ -1,4 +1,4 @@
-#include "map/MapMath.h"
+#include "map/blend/MapMath.h"
 
 #include <gtest/gtest.h>
 

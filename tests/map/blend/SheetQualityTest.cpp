@@ -4,9 +4,9 @@
 
 #include <gtest/gtest.h>
 
-#include "map/ForwardBlend.h"
-#include "map/MapMath.h"
 #include "map/UtmSheet.h"
+#include "map/blend/ForwardBlend.h"
+#include "map/blend/MapMath.h"
 
 namespace map {
 namespace {

@@ -7,8 +7,8 @@
 #include <cstddef>
 
 #include "map/Pixel.h"
-#include "map/PlanePoint.h"
 #include "map/ReferencePoint.h"
+#include "map/blend/PlanePoint.h"
 
 namespace map {
 

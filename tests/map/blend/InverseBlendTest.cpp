@@ -1,4 +1,4 @@
-#include "map/InverseBlend.h"
+#include "map/blend/InverseBlend.h"
 
 #include <cmath>
 #include <cstddef>
@@ -8,9 +8,9 @@
 
 #include <gtest/gtest.h>
 
-#include "map/BlendAgreement.h"
 #include "map/CalibrationFile.h"
 #include "map/SampleMaps.h"
+#include "map/blend/BlendAgreement.h"
 
 namespace map {
 namespace {

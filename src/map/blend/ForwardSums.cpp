@@ -1,4 +1,4 @@
-#include "map/ForwardSums.h"
+#include "map/blend/ForwardSums.h"
 
 #include <cstring>
 #include <limits>

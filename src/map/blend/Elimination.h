@@ -4,10 +4,10 @@
 
 #include <span>
 
-#include "map/ForwardSums.h"
-#include "map/Moments.h"
-#include "map/PlanePoint.h"
 #include "map/ReferencePoint.h"
+#include "map/blend/ForwardSums.h"
+#include "map/blend/Moments.h"
+#include "map/blend/PlanePoint.h"
 
 namespace map {
 

@@ -1,8 +1,8 @@
-#include "map/TriangleBlend.h"
+#include "map/blend/TriangleBlend.h"
 
 #include <cstddef>
 
-#include "map/MapMath.h"
+#include "map/blend/MapMath.h"
 
 namespace map {
 

@@ -1,4 +1,4 @@
-#include "map/TriangleSurvey.h"
+#include "map/blend/TriangleSurvey.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,8 +1,8 @@
-#include "map/InverseBlend.h"
+#include "map/blend/InverseBlend.h"
 
 #include <algorithm>
 
-#include "map/Moments.h"
+#include "map/blend/Moments.h"
 
 namespace map {
 

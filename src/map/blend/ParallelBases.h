@@ -12,7 +12,7 @@
 #include <span>
 #include <vector>
 
-#include "map/PlanePoint.h"
+#include "map/blend/PlanePoint.h"
 
 namespace map {
 

@@ -15,13 +15,13 @@
 #include <vector>
 
 #include "geo/GeoPosition.h"
-#include "map/FewTriangles.h"
-#include "map/PackedColumns.h"
-#include "map/ParallelBases.h"
 #include "map/Pixel.h"
-#include "map/PlanePoint.h"
 #include "map/ReferencePoint.h"
-#include "map/TriangleSurvey.h"
+#include "map/blend/FewTriangles.h"
+#include "map/blend/PackedColumns.h"
+#include "map/blend/ParallelBases.h"
+#include "map/blend/PlanePoint.h"
+#include "map/blend/TriangleSurvey.h"
 
 namespace map {
 

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <cstddef>
 
-#include "map/MapMath.h"
+#include "map/blend/MapMath.h"
 
 namespace map {
 

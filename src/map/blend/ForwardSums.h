@@ -9,12 +9,12 @@
 #include <span>
 
 #include "geo/GeoPosition.h"
-#include "map/Lanes.h"
-#include "map/Moments.h"
-#include "map/PackedColumns.h"
-#include "map/ParallelBases.h"
 #include "map/Pixel.h"
-#include "map/PlanePoint.h"
+#include "map/blend/Lanes.h"
+#include "map/blend/Moments.h"
+#include "map/blend/PackedColumns.h"
+#include "map/blend/ParallelBases.h"
+#include "map/blend/PlanePoint.h"
 
 namespace map {
 

@@ -1,4 +1,4 @@
-#include "map/ForwardBlend.h"
+#include "map/blend/ForwardBlend.h"
 
 #include <cmath>
 #include <cstddef>
@@ -8,9 +8,9 @@
 
 #include <gtest/gtest.h>
 
-#include "map/BlendAgreement.h"
-#include "map/ExactBlend.h"
 #include "map/SampleMaps.h"
+#include "map/blend/BlendAgreement.h"
+#include "map/blend/ExactBlend.h"
 
 namespace map {
 namespace {

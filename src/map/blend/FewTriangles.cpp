@@ -1,8 +1,8 @@
-#include "map/FewTriangles.h"
+#include "map/blend/FewTriangles.h"
 
-#include "map/Lanes.h"
-#include "map/Moments.h"
-#include "map/ParallelBases.h"
+#include "map/blend/Lanes.h"
+#include "map/blend/Moments.h"
+#include "map/blend/ParallelBases.h"
 
 namespace map {
 

@@ -1,4 +1,4 @@
-#include "map/TriangleBlend.h"
+#include "map/blend/TriangleBlend.h"
 
 #include <cstddef>
 #include <vector>

@@ -1,4 +1,4 @@
-#include "map/ExactBlend.h"
+#include "map/blend/ExactBlend.h"
 
 #include <algorithm>
 #include <array>

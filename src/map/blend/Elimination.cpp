@@ -1,4 +1,4 @@
-#include "map/Elimination.h"
+#include "map/blend/Elimination.h"
 
 #include <cmath>
 #include <cstddef>

@@ -13,11 +13,11 @@
 #include <vector>
 
 #include "geo/GeoPosition.h"
-#include "map/ParallelBases.h"
 #include "map/Pixel.h"
-#include "map/PlanePoint.h"
 #include "map/ReferencePoint.h"
-#include "map/TriangleSurvey.h"
+#include "map/blend/ParallelBases.h"
+#include "map/blend/PlanePoint.h"
+#include "map/blend/TriangleSurvey.h"
 
 namespace map {
 

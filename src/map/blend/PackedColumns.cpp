@@ -1,4 +1,4 @@
-#include "map/PackedColumns.h"
+#include "map/blend/PackedColumns.h"
 
 #include <algorithm>
 

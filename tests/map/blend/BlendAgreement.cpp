@@ -1,4 +1,4 @@
-#include "map/BlendAgreement.h"
+#include "map/blend/BlendAgreement.h"
 
 #include <algorithm>
 #include <cmath>
@@ -6,10 +6,10 @@
 #include <iomanip>
 #include <limits>
 
-#include "map/ExactBlend.h"
-#include "map/ForwardBlend.h"
-#include "map/InverseBlend.h"
-#include "map/TriangleBlend.h"
+#include "map/blend/ExactBlend.h"
+#include "map/blend/ForwardBlend.h"
+#include "map/blend/InverseBlend.h"
+#include "map/blend/TriangleBlend.h"
 
 namespace map {
 
