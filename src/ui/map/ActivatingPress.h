@@ -11,7 +11,7 @@
 
 #include <QElapsedTimer>
 
-#include "ui/map/PlotPosition.h"
+#include "plot/PlotPosition.h"
 
 namespace ui {
 

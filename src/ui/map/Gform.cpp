@@ -10,10 +10,10 @@
 #include <QScrollBar>
 #include <QWindow>
 
+#include "plot/MapScale.h"
+#include "plot/ViewLayout.h"
 #include "ui/Controls.h"
 #include "ui/map/MapPicture.h"
-#include "ui/map/MapScale.h"
-#include "ui/map/ViewLayout.h"
 
 namespace ui {
 

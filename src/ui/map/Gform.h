@@ -11,12 +11,12 @@
 
 #include "app/AppState.h"
 #include "app/MainWindowPort.h"
+#include "plot/MapView.h"
 #include "ui/map/ActivatingPress.h"
 #include "ui/map/MapFiles.h"
 #include "ui/map/MapImage.h"
 #include "ui/map/MapMouse.h"
 #include "ui/map/MapPainter.h"
-#include "ui/map/MapView.h"
 
 class QListWidget;
 class QPushButton;

@@ -6,10 +6,10 @@
 #include <QPointer>
 #include <QScrollBar>
 
+#include "plot/MapGrid.h"
 #include "ui/FileNameText.h"
 #include "ui/UserDialogs.h"
 #include "ui/map/Gform.h"
-#include "ui/map/MapGrid.h"
 #include "ui/map/MapHint.h"
 #include "ui/map/MapPicture.h"
 #include "ui/map/MapProperties.h"

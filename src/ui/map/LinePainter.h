@@ -5,9 +5,9 @@
 #include <QImage>
 #include <QPainter>
 
-#include "ui/map/LineClip.h"
-#include "ui/map/PlotPosition.h"
-#include "ui/map/ViewLayout.h"
+#include "plot/LineClip.h"
+#include "plot/PlotPosition.h"
+#include "plot/ViewLayout.h"
 
 namespace ui {
 

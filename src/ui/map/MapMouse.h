@@ -7,9 +7,9 @@
 
 #include "app/AppState.h"
 #include "app/MainWindowPort.h"
+#include "plot/PlotPosition.h"
+#include "plot/Route.h"
 #include "ui/map/MapImage.h"
-#include "ui/map/PlotPosition.h"
-#include "ui/map/Route.h"
 
 class QString;
 class QWidget;

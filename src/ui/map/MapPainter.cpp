@@ -8,8 +8,8 @@
 
 #include "base/Rounding.h"
 #include "map/Georeference.h"
+#include "plot/MapScale.h"
 #include "ui/map/LinePainter.h"
-#include "ui/map/MapScale.h"
 #include "ui/map/PolarPicture.h"
 
 namespace ui {

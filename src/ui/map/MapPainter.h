@@ -14,10 +14,10 @@
 
 #include "app/AppState.h"
 #include "app/MainWindowPort.h"
+#include "plot/MapView.h"
+#include "plot/StationPlot.h"
 #include "ui/map/MapImage.h"
-#include "ui/map/MapView.h"
 #include "ui/map/MarkerLayer.h"
-#include "ui/map/StationPlot.h"
 
 namespace ui {
 

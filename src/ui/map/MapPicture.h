@@ -7,7 +7,7 @@
 #include <QImage>
 #include <QWidget>
 
-#include "ui/map/PlotPosition.h"
+#include "plot/PlotPosition.h"
 
 namespace ui {
 

@@ -15,8 +15,8 @@
 
 #include <QImage>
 
-#include "ui/map/CoverMask.h"
-#include "ui/map/LabelPool.h"
+#include "plot/CoverMask.h"
+#include "plot/LabelPool.h"
 #include "ui/map/MarkerPainter.h"
 
 namespace ui {

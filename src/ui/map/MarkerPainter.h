@@ -14,8 +14,8 @@
 #include <QFont>
 #include <QFontMetricsF>
 
-#include "ui/map/CoverMask.h"
-#include "ui/map/PlotPosition.h"
+#include "plot/CoverMask.h"
+#include "plot/PlotPosition.h"
 
 class QPainter;
 

@@ -3,8 +3,8 @@
 #include <QPainter>
 
 #include "base/Rounding.h"
+#include "plot/PolarScale.h"
 #include "ui/map/LinePainter.h"
-#include "ui/map/PolarScale.h"
 
 namespace ui {
 

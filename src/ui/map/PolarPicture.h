@@ -5,8 +5,8 @@
 #include <QImage>
 
 #include "base/NumberText.h"
+#include "plot/ViewLayout.h"
 #include "ui/map/MarkerPainter.h"
-#include "ui/map/ViewLayout.h"
 
 namespace ui {
 

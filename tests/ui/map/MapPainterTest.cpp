@@ -9,9 +9,9 @@
 
 #include "base/Rounding.h"
 #include "geo/Distance.h"
+#include "plot/MapScale.h"
 #include "ui/map/FakeMainWindow.h"
 #include "ui/map/LinePainter.h"
-#include "ui/map/MapScale.h"
 #include "ui/map/PolarPicture.h"
 
 namespace ui {

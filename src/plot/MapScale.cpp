@@ -1,4 +1,4 @@
-#include "ui/map/MapScale.h"
+#include "plot/MapScale.h"
 
 #include <algorithm>
 #include <array>

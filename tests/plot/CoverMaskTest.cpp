@@ -1,4 +1,4 @@
-#include "ui/map/CoverMask.h"
+#include "plot/CoverMask.h"
 
 #include <algorithm>
 #include <random>

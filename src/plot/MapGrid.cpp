@@ -1,4 +1,4 @@
-#include "ui/map/MapGrid.h"
+#include "plot/MapGrid.h"
 
 #include <algorithm>
 #include <cmath>

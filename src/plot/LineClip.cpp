@@ -1,7 +1,7 @@
 // Clipping by Liang and Barsky: the line is from + t (to - from), and every edge bounds t from one
 // side.
 
-#include "ui/map/LineClip.h"
+#include "plot/LineClip.h"
 
 #include <algorithm>
 #include <cmath>

@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "base/NumberText.h"
-#include "ui/map/MapScale.h"
-#include "ui/map/PlotPosition.h"
-#include "ui/map/ViewLayout.h"
+#include "plot/MapScale.h"
+#include "plot/PlotPosition.h"
+#include "plot/ViewLayout.h"
 
 namespace ui {
 

@@ -1,4 +1,4 @@
-#include "ui/map/ViewLayout.h"
+#include "plot/ViewLayout.h"
 
 #include <algorithm>
 

@@ -4,10 +4,10 @@
 
 #include <optional>
 
-#include "ui/map/MapGrid.h"
-#include "ui/map/PlotPosition.h"
-#include "ui/map/Route.h"
-#include "ui/map/ViewLayout.h"
+#include "plot/MapGrid.h"
+#include "plot/PlotPosition.h"
+#include "plot/Route.h"
+#include "plot/ViewLayout.h"
 
 namespace ui {
 

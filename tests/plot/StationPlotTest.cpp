@@ -1,4 +1,4 @@
-#include "ui/map/StationPlot.h"
+#include "plot/StationPlot.h"
 
 #include <cmath>
 #include <limits>

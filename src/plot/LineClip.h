@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "map/Pixel.h"
-#include "ui/map/ViewLayout.h"
+#include "plot/ViewLayout.h"
 
 namespace ui {
 

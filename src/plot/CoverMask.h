@@ -9,7 +9,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "ui/map/ViewLayout.h"
+#include "plot/ViewLayout.h"
 
 namespace ui {
 

@@ -11,7 +11,7 @@
 #include "map/CalibrationFile.h"
 #include "map/Georeference.h"
 #include "map/Pixel.h"
-#include "ui/map/ViewLayout.h"
+#include "plot/ViewLayout.h"
 
 namespace ui {
 

@@ -1,4 +1,4 @@
-#include "ui/map/Route.h"
+#include "plot/Route.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "ui/map/PlotPosition.h"
+#include "plot/PlotPosition.h"
 
 #include <cmath>
 #include <cstdlib>

@@ -1,4 +1,4 @@
-#include "ui/map/LineClip.h"
+#include "plot/LineClip.h"
 
 #include <cmath>
 #include <limits>

@@ -15,9 +15,9 @@
 #include "geo/GeoPosition.h"
 #include "map/Pixel.h"
 #include "map/ReferencePoint.h"
+#include "plot/PlotPosition.h"
+#include "plot/ViewLayout.h"
 #include "stations/StationRecord.h"
-#include "ui/map/PlotPosition.h"
-#include "ui/map/ViewLayout.h"
 
 namespace ui {
 

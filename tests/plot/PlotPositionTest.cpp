@@ -1,4 +1,4 @@
-#include "ui/map/PlotPosition.h"
+#include "plot/PlotPosition.h"
 
 #include <cmath>
 #include <limits>
@@ -8,7 +8,7 @@
 
 #include "base/Rounding.h"
 #include "geo/Distance.h"
-#include "ui/map/MapScale.h"
+#include "plot/MapScale.h"
 
 namespace ui {
 namespace {

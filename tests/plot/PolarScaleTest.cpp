@@ -1,4 +1,4 @@
-#include "ui/map/PolarScale.h"
+#include "plot/PolarScale.h"
 
 #include <algorithm>
 
