@@ -33,7 +33,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 constexpr int kStations = 25'000;
-constexpr ui::Extent kSurface{1200, 800};
+constexpr plot::Extent kSurface{1200, 800};
 constexpr QSize kImage{3000, 2000};
 constexpr QColor kPlate{0x30, 0x8C, 0xC6};
 
@@ -97,7 +97,7 @@ struct World {
     app::AppState state;
     ui::MapImage image;
     ui::FakeMainWindow mainWindow{state};
-    ui::MapView view;
+    plot::MapView view;
 };
 
 // What the program's painter draws, once more by plain calls.
@@ -139,12 +139,12 @@ public:
     RasterLimit(const ui::MapPainter& painter, QImage& frame) : frame_(frame)
     {
         const ui::MarkerPainter marker(1.0, kPlate, ui::kMapInk);
-        ui::CoverMask mask;
+        plot::CoverMask mask;
         mask.Reset(kSurface);
         const auto markers = painter.Markers();
         for (std::size_t i = markers.size(); i-- > 0;) {
             const std::string_view label = painter.LabelOf(markers[i]);
-            const ui::PixelBox plate = marker.Plate(markers[i].at, marker.TextWidth(label));
+            const plot::PixelBox plate = marker.Plate(markers[i].at, marker.TextWidth(label));
             if (!mask.FreePart(plate).Empty()) {
                 mask.Cover(plate);
                 visible_.push_back({markers[i].at, plate, label});
@@ -191,12 +191,12 @@ private:
     static constexpr int kHeight = 12;
 
     struct Item {
-        ui::SurfacePoint at;
-        ui::PixelBox plate;
+        plot::SurfacePoint at;
+        plot::PixelBox plate;
         std::string_view label;
     };
 
-    static void Square(QRgb* pixels, int stride, ui::SurfacePoint at)
+    static void Square(QRgb* pixels, int stride, plot::SurfacePoint at)
     {
         for (int y = std::max(0, at.y - 2); y <= std::min(799, at.y + 2); ++y) {
             for (int x = std::max(0, at.x - 2); x <= std::min(1199, at.x + 2); ++x) {

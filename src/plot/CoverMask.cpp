@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <bit>
 
-namespace ui {
+namespace plot {
 
 namespace {
 
@@ -101,4 +101,4 @@ void CoverMask::Cover(const PixelBox& box)
     }
 }
 
-}  // namespace ui
+}  // namespace plot

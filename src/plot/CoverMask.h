@@ -11,7 +11,7 @@
 
 #include "plot/ViewLayout.h"
 
-namespace ui {
+namespace plot {
 
 // Pixels from `left`, `top` up to but without `right`, `bottom`; may reach beyond the picture.
 struct PixelBox {
@@ -57,4 +57,4 @@ private:
     std::vector<Word> taken_;
 };
 
-}  // namespace ui
+}  // namespace plot

@@ -9,7 +9,7 @@
 #include <string_view>
 #include <unordered_map>
 
-namespace ui {
+namespace plot {
 
 using LabelId = std::uint32_t;
 
@@ -44,4 +44,4 @@ private:
     std::unordered_map<std::string_view, LabelId> numbers_;
 };
 
-}  // namespace ui
+}  // namespace plot

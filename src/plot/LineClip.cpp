@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace ui {
+namespace plot {
 
 namespace {
 
@@ -58,4 +58,4 @@ std::optional<Line> ClipLine(const Line& line, Extent surface)
     return cut;
 }
 
-}  // namespace ui
+}  // namespace plot

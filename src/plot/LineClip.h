@@ -7,7 +7,7 @@
 #include "map/Pixel.h"
 #include "plot/ViewLayout.h"
 
-namespace ui {
+namespace plot {
 
 struct Line {
     map::Pixel from;
@@ -20,4 +20,4 @@ struct Line {
 // is not finite. A line that lies within is returned as it is.
 std::optional<Line> ClipLine(const Line& line, Extent surface);
 
-}  // namespace ui
+}  // namespace plot

@@ -5,7 +5,7 @@
 
 #include "geo/GeoPosition.h"
 
-namespace ui {
+namespace plot {
 
 namespace {
 
@@ -63,4 +63,4 @@ std::vector<GridPiece> VisiblePieces(const GridNodes& grid, map::Pixel clipOrigi
     return pieces;
 }
 
-}  // namespace ui
+}  // namespace plot

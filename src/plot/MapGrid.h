@@ -11,7 +11,7 @@
 #include "map/Pixel.h"
 #include "map/ReferenceTable.h"
 
-namespace ui {
+namespace plot {
 
 // Made once when the grid is switched on; drawn minus the clip origin.
 struct GridNodes {
@@ -41,4 +41,4 @@ struct GridPiece {
 std::vector<GridPiece> VisiblePieces(const GridNodes& grid, map::Pixel clipOrigin,
                                      map::ImageSize clip);
 
-}  // namespace ui
+}  // namespace plot

@@ -4,7 +4,7 @@
 #include <array>
 #include <cstddef>
 
-namespace ui {
+namespace plot {
 
 namespace {
 
@@ -65,4 +65,4 @@ std::int16_t ZoomedOut(std::int16_t zoomLevel)
     return std::min(kFarthestZoom, static_cast<std::int16_t>(zoomLevel + 1));
 }
 
-}  // namespace ui
+}  // namespace plot

@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-namespace ui {
+namespace plot {
 
 inline constexpr std::int16_t kNearestZoom = 1;
 inline constexpr std::int16_t kFarthestZoom = 33;
@@ -27,4 +27,4 @@ MapScale ComputeScale(int zoomLevel);
 std::int16_t ZoomedIn(std::int16_t zoomLevel);
 std::int16_t ZoomedOut(std::int16_t zoomLevel);
 
-}  // namespace ui
+}  // namespace plot

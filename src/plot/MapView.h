@@ -9,7 +9,7 @@
 #include "plot/Route.h"
 #include "plot/ViewLayout.h"
 
-namespace ui {
+namespace plot {
 
 struct MapView {
     Extent surface;
@@ -20,4 +20,4 @@ struct MapView {
     Route route;
 };
 
-}  // namespace ui
+}  // namespace plot

@@ -6,7 +6,7 @@
 #include "base/Rounding.h"
 #include "geo/Distance.h"
 
-namespace ui {
+namespace plot {
 
 namespace {
 
@@ -87,4 +87,4 @@ geo::GeoPosition InterpolatedPosition(const map::EdgeCoordinates& edges, map::Im
     };
 }
 
-}  // namespace ui
+}  // namespace plot

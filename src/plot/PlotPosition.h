@@ -13,7 +13,7 @@
 #include "map/Pixel.h"
 #include "plot/ViewLayout.h"
 
-namespace ui {
+namespace plot {
 
 struct SurfacePoint {
     int x = 0;
@@ -54,4 +54,4 @@ map::Pixel InterpolatedPixel(const map::EdgeCoordinates& edges, map::ImageSize i
 geo::GeoPosition InterpolatedPosition(const map::EdgeCoordinates& edges, map::ImageSize image,
                                       map::Pixel pixel);
 
-}  // namespace ui
+}  // namespace plot

@@ -5,7 +5,7 @@
 #include "base/Rounding.h"
 #include "geo/Radians.h"
 
-namespace ui {
+namespace plot {
 
 namespace {
 
@@ -54,4 +54,4 @@ PolarScale DrawPolarScale(Extent surface, int zoomLevel, const base::NumberForma
     return result;
 }
 
-}  // namespace ui
+}  // namespace plot

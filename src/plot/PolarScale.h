@@ -10,7 +10,7 @@
 #include "plot/PlotPosition.h"
 #include "plot/ViewLayout.h"
 
-namespace ui {
+namespace plot {
 
 struct Segment {
     SurfacePoint from;
@@ -35,4 +35,4 @@ struct PolarScale {
 // all labels are kilometres ("2 km"), otherwise all are metres ("500 m").
 PolarScale DrawPolarScale(Extent surface, int zoomLevel, const base::NumberFormat& format);
 
-}  // namespace ui
+}  // namespace plot

@@ -10,7 +10,7 @@
 
 #include "geo/GeoPosition.h"
 
-namespace ui {
+namespace plot {
 
 enum class Pen : std::int16_t {
     Up = 0,    // a new chain starts here
@@ -65,4 +65,4 @@ private:
     std::size_t count_ = 0;
 };
 
-}  // namespace ui
+}  // namespace plot

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <bit>
 
-namespace ui {
+namespace plot {
 
 namespace {
 
@@ -61,4 +61,4 @@ std::span<const map::Pixel> StationPlot::Image(std::span<const stations::Station
     return pixels_;
 }
 
-}  // namespace ui
+}  // namespace plot

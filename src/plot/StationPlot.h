@@ -19,7 +19,7 @@
 #include "plot/ViewLayout.h"
 #include "stations/StationRecord.h"
 
-namespace ui {
+namespace plot {
 
 // What the image pixel of a position depends on.
 struct ImageModel {
@@ -58,4 +58,4 @@ private:
     std::vector<map::Pixel> pixels_;
 };
 
-}  // namespace ui
+}  // namespace plot

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace ui {
+namespace plot {
 
 namespace {
 
@@ -47,4 +47,4 @@ ViewLayout ImageLayout(Extent inner, Extent image)
     return layout;
 }
 
-}  // namespace ui
+}  // namespace plot

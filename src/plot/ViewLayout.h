@@ -2,7 +2,7 @@
 
 #pragma once
 
-namespace ui {
+namespace plot {
 
 // Whole surface units.
 struct Extent {
@@ -32,4 +32,4 @@ ViewLayout PolarLayout(Extent inner);
 // the other dimension, so that one bar can make the second one necessary.
 ViewLayout ImageLayout(Extent inner, Extent image);
 
-}  // namespace ui
+}  // namespace plot

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-namespace ui {
+namespace plot {
 namespace {
 
 TEST(CoverMask, BoxIsCoveredByThePiecesLaidOverIt)
@@ -89,4 +89,4 @@ TEST(CoverMask, AgreesWithCountingPixels)
 }
 
 }  // namespace
-}  // namespace ui
+}  // namespace plot

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-namespace ui {
+namespace plot {
 namespace {
 
 constexpr Extent kSurface{800, 600};
@@ -54,4 +54,4 @@ TEST(ClipLine, PointOnTheSurfaceStays)
 }
 
 }  // namespace
-}  // namespace ui
+}  // namespace plot

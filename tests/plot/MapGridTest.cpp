@@ -7,7 +7,7 @@
 
 #include "map/CalibrationFile.h"
 
-namespace ui {
+namespace plot {
 namespace {
 
 // A map of the given bounds with references at its corners: a plain north-up map.
@@ -74,4 +74,4 @@ TEST(VisiblePieces, LeaveOutCrossingsThatAreNoNumbers)
 }
 
 }  // namespace
-}  // namespace ui
+}  // namespace plot

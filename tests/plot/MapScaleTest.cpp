@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace ui {
+namespace plot {
 namespace {
 
 TEST(ComputeScale, HasTheListedPairOfEveryLevel)
@@ -65,4 +65,4 @@ TEST(Zoom, StopsAtTheFirstAndTheLastLevel)
 }
 
 }  // namespace
-}  // namespace ui
+}  // namespace plot

@@ -10,7 +10,7 @@
 #include "geo/Distance.h"
 #include "plot/MapScale.h"
 
-namespace ui {
+namespace plot {
 namespace {
 
 constexpr geo::GeoPosition kHome{.latitude = 48.0, .longitude = 11.0};
@@ -148,4 +148,4 @@ TEST(InterpolatedPixel, EqualEdgesPlotNothing)
 }
 
 }  // namespace
-}  // namespace ui
+}  // namespace plot

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace ui {
+namespace plot {
 namespace {
 
 std::vector<std::string> Labels(int zoomLevel)
@@ -77,4 +77,4 @@ TEST(DrawPolarScale, DrawsARadialEveryTenDegreesThroughTheCentre)
 }
 
 }  // namespace
-}  // namespace ui
+}  // namespace plot

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace ui {
+namespace plot {
 namespace {
 
 TEST(Route, PlaceholdersAreNotPartOfIt)
@@ -54,4 +54,4 @@ TEST(Route, LosesItsFirstPoints)
 }
 
 }  // namespace
-}  // namespace ui
+}  // namespace plot

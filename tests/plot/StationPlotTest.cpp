@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-namespace ui {
+namespace plot {
 namespace {
 
 using stations::StationRecord;
@@ -111,4 +111,4 @@ TEST(PolarStationPlot, FollowsStation1AndTheRecords)
 }
 
 }  // namespace
-}  // namespace ui
+}  // namespace plot

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace ui {
+namespace plot {
 namespace {
 
 TEST(PolarLayout, LeavesTheStripsAtTheRightAndBelow)
@@ -61,4 +61,4 @@ TEST(ImageLayout, GivesEveryDimensionItsBarOrTheImageSize)
 }
 
 }  // namespace
-}  // namespace ui
+}  // namespace plot

@@ -18,7 +18,7 @@ namespace ui {
 class ActivatingPress {
 public:
     // The window was activated; until then the clip stood at `clip`.
-    void Activated(SurfacePoint clip)
+    void Activated(plot::SurfacePoint clip)
     {
         clip_ = clip;
         activated_.start();
@@ -26,10 +26,10 @@ public:
 
     // The surface was pressed in the active window. If that activated it, the clip that was shown
     // then; asked once.
-    std::optional<SurfacePoint> ClipPressed()
+    std::optional<plot::SurfacePoint> ClipPressed()
     {
         const bool belongs = clip_ && !activated_.hasExpired(kMoment);
-        const std::optional<SurfacePoint> clip = belongs ? clip_ : std::nullopt;
+        const std::optional<plot::SurfacePoint> clip = belongs ? clip_ : std::nullopt;
         clip_.reset();
         return clip;
     }
@@ -57,7 +57,7 @@ public:
     static constexpr qint64 kMoment = 200;  // ms
 
 private:
-    std::optional<SurfacePoint> clip_;
+    std::optional<plot::SurfacePoint> clip_;
     QElapsedTimer activated_;
     std::optional<std::size_t> routePoints_;
     QElapsedTimer pressed_;

@@ -90,7 +90,7 @@ void Gform::AddControls()
                       painter_.Redraw(frame, view_, scale,
                                       palette().color(QPalette::Active, QPalette::Highlight));
                   },
-                  [this](SurfacePoint point) { return HintAt(point); }, contents),
+                  [this](plot::SurfacePoint point) { return HintAt(point); }, contents),
               u"Picture1"_s);
     Picture1->setAccessibleName(u"Kartenfläche"_s);
     Picture1->setContextMenuPolicy(Qt::CustomContextMenu);
@@ -149,7 +149,7 @@ bool Gform::eventFilter(QObject* watched, QEvent* event)
 
 void Gform::Activate()
 {
-    const SurfacePoint shown = view_.clipOrigin;
+    const plot::SurfacePoint shown = view_.clipOrigin;
     const std::optional<std::size_t> pressed = activatingPress_.PointsBeforePress();
     if (state_.map.mapImage && !pressed) {
         HScroll1->setValue(0);
@@ -166,12 +166,14 @@ void Gform::Activate()
 
 void Gform::Layout()
 {
-    const Extent inner = {.width = centralWidget()->width(), .height = centralWidget()->height()};
+    const plot::Extent inner = {.width = centralWidget()->width(),
+                                .height = centralWidget()->height()};
     const map::ImageSize image = image_.Size();
-    const ViewLayout layout =
-        state_.map.mapImage ? ImageLayout(inner, {.width = image.width, .height = image.height})
-                            : PolarLayout(inner);
-    const Extent& surface = view_.surface = layout.surface;
+    const plot::ViewLayout layout =
+        state_.map.mapImage
+            ? plot::ImageLayout(inner, {.width = image.width, .height = image.height})
+            : plot::PolarLayout(inner);
+    const plot::Extent& surface = view_.surface = layout.surface;
     Picture1->setGeometry(0, 0, surface.width, surface.height);
 
     const auto place = [](QScrollBar* bar, bool needed, int hidden, int page) {
@@ -180,19 +182,19 @@ void Gform::Layout()
         bar->setSingleStep(std::min(kScrollStep, page));
         bar->setRange(0, needed ? std::max(0, hidden) : 0);
     };
-    HScroll1->setGeometry(0, surface.height, surface.width, kBarThickness);
-    VScroll1->setGeometry(surface.width, 0, kBarThickness, surface.height);
+    HScroll1->setGeometry(0, surface.height, surface.width, plot::kBarThickness);
+    VScroll1->setGeometry(surface.width, 0, plot::kBarThickness, surface.height);
     place(HScroll1, layout.horizontalBar, image.width - surface.width, surface.width);
     place(VScroll1, layout.verticalBar, image.height - surface.height, surface.height);
     view_.clipOrigin = {.x = HScroll1->value(), .y = VScroll1->value()};
-    LayoutStrip(inner.width - kRightStrip);
+    LayoutStrip(inner.width - plot::kRightStrip);
 }
 
 void Gform::LayoutStrip(int left)
 {
     const int height = centralWidget()->height();
     const int x = left + kGap;
-    const int width = kRightStrip - 2 * kGap;
+    const int width = plot::kRightStrip - 2 * kGap;
     Command2->setGeometry(x, kGap, width, kButtonHeight);
     Command1->setGeometry(x, 2 * kGap + kButtonHeight, width, kButtonHeight);
     const int top = 3 * (kGap + kButtonHeight);
@@ -215,13 +217,13 @@ void Gform::ShowClip()
 
 void Gform::ZoomIn()
 {
-    state_.configuration.displaySize = ZoomedIn(state_.configuration.displaySize);
+    state_.configuration.displaySize = plot::ZoomedIn(state_.configuration.displaySize);
     Redraw();
 }
 
 void Gform::ZoomOut()
 {
-    state_.configuration.displaySize = ZoomedOut(state_.configuration.displaySize);
+    state_.configuration.displaySize = plot::ZoomedOut(state_.configuration.displaySize);
     Redraw();
 }
 

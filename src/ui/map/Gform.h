@@ -97,7 +97,7 @@ private:
     void Scroll(int dx, int dy) const;
     void Turn(QPoint eighths);
 
-    void Press(SurfacePoint point);
+    void Press(plot::SurfacePoint point);
     void Click();
 
     // Menu commands.
@@ -114,8 +114,8 @@ private:
     void ShowProperties();
     void FoldProperties();
 
-    QString HintAt(SurfacePoint point) const;
-    bool GivesPositionAt(SurfacePoint point) const;  // false where the references give none
+    QString HintAt(plot::SurfacePoint point) const;
+    bool GivesPositionAt(plot::SurfacePoint point) const;  // false where the references give none
     map::Refinement OutputRefinement() const;
 
     app::AppState& state_;
@@ -123,7 +123,7 @@ private:
     app::MainWindowPort& mainWindow_;
     UserDialogs& dialogs_;
 
-    MapView view_;
+    plot::MapView view_;
     MapPainter painter_;
     MapMouse mouse_;
     MapFiles files_;

@@ -18,14 +18,14 @@ namespace ui {
 
 using namespace Qt::StringLiterals;
 
-void Gform::Press(SurfacePoint point)
+void Gform::Press(plot::SurfacePoint point)
 {
     if (!state_.map.mapImage) {
         return;
     }
     if (!isActiveWindow()) {
         activatingPress_.PressedInactive(view_.route.Count());
-    } else if (const std::optional<SurfacePoint> clip = activatingPress_.ClipPressed()) {
+    } else if (const std::optional<plot::SurfacePoint> clip = activatingPress_.ClipPressed()) {
         HScroll1->setValue(clip->x);
         VScroll1->setValue(clip->y);
     }
@@ -50,7 +50,7 @@ void Gform::Click()
     }
 }
 
-QString Gform::HintAt(SurfacePoint point) const
+QString Gform::HintAt(plot::SurfacePoint point) const
 {
     const std::optional<MarkerSource> marker = painter_.MarkerAt(point);
     if (!marker) {
@@ -77,7 +77,7 @@ QString Gform::HintAt(SurfacePoint point) const
     return {};
 }
 
-bool Gform::GivesPositionAt(SurfacePoint point) const
+bool Gform::GivesPositionAt(plot::SurfacePoint point) const
 {
     const map::ReferenceTable& table = state_.map.references;
     return !state_.map.mapImage || !table.ReferenceMode()
@@ -131,7 +131,7 @@ void Gform::ToggleGrid(bool on)
 {
     view_.grid.reset();
     if (on) {
-        view_.grid = MakeGrid(state_.map.references, image_.Size(), OutputRefinement());
+        view_.grid = plot::MakeGrid(state_.map.references, image_.Size(), OutputRefinement());
         if (!view_.grid) {
             Item("MnuRast")->setChecked(false);
             const OwnDialogs dialogs(*this);

@@ -91,7 +91,8 @@ void Gform::AddFileMenu()
 
 void Gform::AddDisplayMenu()
 {
-    const auto marks = [this](const char* name, const QString& caption, bool MapView::*shown) {
+    const auto marks = [this](const char* name, const QString& caption,
+                              bool plot::MapView::*shown) {
         return MenuItem{name, caption,
                         [this, shown](bool on) {
                             view_.*shown = on;
@@ -115,8 +116,8 @@ void Gform::AddDisplayMenu()
     AddItems(
         NewMenu("MnuAnz", u"Anzeige"_s),
         {
-            marks("MnuSel", u"ausgewählte Stationen"_s, &MapView::showMarked),
-            marks("MnuAlle", u"nicht ausgewählte Stationen"_s, &MapView::showUnmarked),
+            marks("MnuSel", u"ausgewählte Stationen"_s, &plot::MapView::showMarked),
+            marks("MnuAlle", u"nicht ausgewählte Stationen"_s, &plot::MapView::showUnmarked),
             {"MnuMin17"},
             label(0, u"Rufzeichen"_s),
             label(1, u"Name"_s),

@@ -8,7 +8,7 @@ constexpr double kMiddle = 0.5;  // of a unit
 
 }  // namespace
 
-LinePainter::LinePainter(QImage& picture, Extent surface, qreal scale)
+LinePainter::LinePainter(QImage& picture, plot::Extent surface, qreal scale)
     : painter_(&picture), surface_(surface)
 {
     painter_.setRenderHint(QPainter::Antialiasing);
@@ -17,20 +17,20 @@ LinePainter::LinePainter(QImage& picture, Extent surface, qreal scale)
     painter_.setPen(QPen(kLineColour, 1.0));
 }
 
-void LinePainter::Draw(const Line& line)
+void LinePainter::Draw(const plot::Line& line)
 {
-    if (const std::optional<Line> cut = ClipLine(line, surface_)) {
+    if (const std::optional<plot::Line> cut = plot::ClipLine(line, surface_)) {
         painter_.drawLine(QPointF(cut->from.x, cut->from.y), QPointF(cut->to.x, cut->to.y));
     }
 }
 
-void LinePainter::Draw(SurfacePoint from, SurfacePoint to)
+void LinePainter::Draw(plot::SurfacePoint from, plot::SurfacePoint to)
 {
     Draw({.from = {.x = static_cast<double>(from.x), .y = static_cast<double>(from.y)},
           .to = {.x = static_cast<double>(to.x), .y = static_cast<double>(to.y)}});
 }
 
-void LinePainter::DrawCircle(SurfacePoint centre, int radius)
+void LinePainter::DrawCircle(plot::SurfacePoint centre, int radius)
 {
     painter_.drawEllipse(QPointF(centre.x, centre.y), radius, radius);
 }

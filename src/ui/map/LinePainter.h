@@ -18,15 +18,15 @@ inline constexpr QColor kLineColour{0x00, 0x00, 0x45};
 // the middles of their pixels, so that upright and level lines are sharp.
 class LinePainter {
 public:
-    LinePainter(QImage& picture, Extent surface, qreal scale);
+    LinePainter(QImage& picture, plot::Extent surface, qreal scale);
 
-    void Draw(const Line& line);
-    void Draw(SurfacePoint from, SurfacePoint to);
-    void DrawCircle(SurfacePoint centre, int radius);
+    void Draw(const plot::Line& line);
+    void Draw(plot::SurfacePoint from, plot::SurfacePoint to);
+    void DrawCircle(plot::SurfacePoint centre, int radius);
 
 private:
     QPainter painter_;
-    Extent surface_;
+    plot::Extent surface_;
 };
 
 }  // namespace ui

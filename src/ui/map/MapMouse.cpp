@@ -35,8 +35,9 @@ geo::GeoPosition MapMouse::Convert(double tolerance, bool refined)
     const map::ReferenceTable& table = state_.map.references;
     if (!table.ReferenceMode()) {
         deviation_ = 0.0;
-        return InterpolatedPosition(state_.map.edges, image_.Size(),
-                                    {.x = static_cast<double>(x_), .y = static_cast<double>(y_)});
+        return plot::InterpolatedPosition(
+            state_.map.edges, image_.Size(),
+            {.x = static_cast<double>(x_), .y = static_cast<double>(y_)});
     }
     const map::FoundPosition found = map::PixelToGeo(
         table, x_, y_, tolerance, refined ? map::Refinement::On : map::Refinement::Off);
@@ -51,7 +52,7 @@ geo::GeoPosition MapMouse::ClickedPosition()
     return IsFinite(position) ? position : geo::GeoPosition{};
 }
 
-QString MapMouse::Press(SurfacePoint point, SurfacePoint clipOrigin)
+QString MapMouse::Press(plot::SurfacePoint point, plot::SurfacePoint clipOrigin)
 {
     x_ = clipOrigin.x + point.x;
     y_ = clipOrigin.y + point.y;
@@ -117,7 +118,7 @@ ClickResult MapMouse::AddReference()
     return {};
 }
 
-ClickResult MapMouse::Click(Route& route)
+ClickResult MapMouse::Click(plot::Route& route)
 {
     switch (state_.map.clickMode) {
     case app::ClickMode::Nop: return {};
@@ -129,10 +130,10 @@ ClickResult MapMouse::Click(Route& route)
         state_.map.references.DeleteNearestReference(x_, y_);
         return {.redraw = true};
     case app::ClickMode::RouteStart:
-        route.Append({.pen = Pen::Up, .position = ClickedPosition()});
+        route.Append({.pen = plot::Pen::Up, .position = ClickedPosition()});
         return {.redraw = true, .referenceAdded = false, .nextMode = app::ClickMode::RouteContinue};
     case app::ClickMode::RouteContinue:
-        route.Append({.pen = Pen::Down, .position = ClickedPosition()});
+        route.Append({.pen = plot::Pen::Down, .position = ClickedPosition()});
         return {.redraw = true};
     }
     return {};

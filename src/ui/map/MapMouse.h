@@ -32,10 +32,10 @@ public:
 
     // Map view: captures the image pixel at a point of the surface, and its position. The result is
     // the window's caption: latitude and longitude in degrees and minutes.
-    QString Press(SurfacePoint point, SurfacePoint clipOrigin);
+    QString Press(plot::SurfacePoint point, plot::SurfacePoint clipOrigin);
 
     // Map view: does what the click mode says with the pixel captured last.
-    ClickResult Click(Route& route);
+    ClickResult Click(plot::Route& route);
 
 private:
     // The position of the captured pixel, as exact as the switch allows; sets the deviation.

@@ -50,7 +50,7 @@ MapPainter::MapPainter(const app::AppState& state, const MapImage& image,
 {
 }
 
-void MapPainter::Redraw(QImage& frame, const MapView& view, qreal scale, QColor plate)
+void MapPainter::Redraw(QImage& frame, const plot::MapView& view, qreal scale, QColor plate)
 {
     const QColor ink = state_.map.mapImage ? kMapInk : kPolarInk;
     if (!marker_ || marker_->Scale() != scale) {
@@ -64,7 +64,7 @@ void MapPainter::Redraw(QImage& frame, const MapView& view, qreal scale, QColor 
     DrawLines(frame, view);
 }
 
-void MapPainter::DrawGround(QImage& frame, const MapView& view, const MarkerPainter& marker)
+void MapPainter::DrawGround(QImage& frame, const plot::MapView& view, const MarkerPainter& marker)
 {
     if (state_.map.mapImage) {
         const QRect area(view.clipOrigin.x, view.clipOrigin.y, view.surface.width,
@@ -90,35 +90,36 @@ void MapPainter::DrawGround(QImage& frame, const MapView& view, const MarkerPain
     CopyPicture(scalePicture_, frame);
 }
 
-ImageModel MapPainter::CurrentModel() const
+plot::ImageModel MapPainter::CurrentModel() const
 {
     const map::ReferenceTable& table = state_.map.references;
-    ImageModel model{.references = {}, .edges = state_.map.edges, .image = image_.Size()};
+    plot::ImageModel model{.references = {}, .edges = state_.map.edges, .image = image_.Size()};
     if (table.ReferenceMode()) {
         model.references.emplace(table.Points().begin(), table.Points().end());
     }
     return model;
 }
 
-map::Pixel MapPainter::Plot(const MapView& view, geo::GeoPosition position) const
+map::Pixel MapPainter::Plot(const plot::MapView& view, geo::GeoPosition position) const
 {
     if (!state_.map.mapImage) {
-        const MapScale scale = ComputeScale(state_.configuration.displaySize);
-        return PolarOffset(PolarFrom(state_.shown.position[0], position),
-                           PolarUnitsPerKilometre(view.surface, scale.ViewRange()));
+        const plot::MapScale scale = plot::ComputeScale(state_.configuration.displaySize);
+        return plot::PolarOffset(plot::PolarFrom(state_.shown.position[0], position),
+                                 plot::PolarUnitsPerKilometre(view.surface, scale.ViewRange()));
     }
-    const map::Pixel pixel = state_.map.references.ReferenceMode()
-                                 ? map::GeoToPixel(state_.map.references, position)
-                                 : InterpolatedPixel(state_.map.edges, image_.Size(), position);
+    const map::Pixel pixel =
+        state_.map.references.ReferenceMode()
+            ? map::GeoToPixel(state_.map.references, position)
+            : plot::InterpolatedPixel(state_.map.edges, image_.Size(), position);
     return {.x = pixel.x - view.clipOrigin.x, .y = pixel.y - view.clipOrigin.y};
 }
 
-void MapPainter::AddMarker(const MapView& view, map::Pixel plotted, LabelId label,
+void MapPainter::AddMarker(const plot::MapView& view, map::Pixel plotted, plot::LabelId label,
                            MarkerSource source)
 {
-    if (const std::optional<SurfacePoint> whole = WholePosition(plotted.x, plotted.y)) {
+    if (const std::optional<plot::SurfacePoint> whole = plot::WholePosition(plotted.x, plotted.y)) {
         markers_.push_back({
-            .at = state_.map.mapImage ? *whole : AtCentre(view.surface, *whole),
+            .at = state_.map.mapImage ? *whole : plot::AtCentre(view.surface, *whole),
             .label = label,
         });
         sources_.push_back(source);
@@ -143,7 +144,7 @@ void MapPainter::UpdateLabels()
     }
 }
 
-void MapPainter::CollectStations(const MapView& view)
+void MapPainter::CollectStations(const plot::MapView& view)
 {
     UpdateLabels();
     const auto records = state_.database.Records();
@@ -164,7 +165,8 @@ void MapPainter::CollectStations(const MapView& view)
                     return;
                 }
                 for (std::size_t i = 0; i < positions.size(); ++i) {
-                    result[i] = InterpolatedPixel(state_.map.edges, image_.Size(), positions[i]);
+                    result[i] =
+                        plot::InterpolatedPixel(state_.map.edges, image_.Size(), positions[i]);
                 }
             });
         for (std::size_t i = 0; i < records.size(); ++i) {
@@ -177,17 +179,17 @@ void MapPainter::CollectStations(const MapView& view)
         }
         return;
     }
-    const MapScale scale = ComputeScale(state_.configuration.displaySize);
-    const double units = PolarUnitsPerKilometre(view.surface, scale.ViewRange());
+    const plot::MapScale scale = plot::ComputeScale(state_.configuration.displaySize);
+    const double units = plot::PolarUnitsPerKilometre(view.surface, scale.ViewRange());
     const auto seen = plot_.Polar(records, state_.shown.position[0]);
     for (std::size_t i = 0; i < records.size(); ++i) {
         if (shown(i)) {
-            AddMarker(view, PolarOffset(seen[i], units), recordLabels_[i], source(i));
+            AddMarker(view, plot::PolarOffset(seen[i], units), recordLabels_[i], source(i));
         }
     }
 }
 
-void MapPainter::CollectMarkers(const MapView& view)
+void MapPainter::CollectMarkers(const plot::MapView& view)
 {
     markers_.clear();
     sources_.clear();
@@ -219,7 +221,7 @@ void MapPainter::CollectMarkers(const MapView& view)
     }
 }
 
-void MapPainter::DrawLines(QImage& frame, const MapView& view) const
+void MapPainter::DrawLines(QImage& frame, const plot::MapView& view) const
 {
     const bool grid =
         state_.map.mapImage && state_.map.references.ReferenceMode() && view.grid.has_value();
@@ -231,12 +233,12 @@ void MapPainter::DrawLines(QImage& frame, const MapView& view) const
                                .y = static_cast<double>(view.clipOrigin.y)};
     if (grid) {
         const map::ImageSize clip = {.width = view.surface.width, .height = view.surface.height};
-        for (const GridPiece& piece : VisiblePieces(*view.grid, origin, clip)) {
+        for (const plot::GridPiece& piece : plot::VisiblePieces(*view.grid, origin, clip)) {
             lines.Draw({.from = {.x = piece.from.x - origin.x, .y = piece.from.y - origin.y},
                         .to = {.x = piece.to.x - origin.x, .y = piece.to.y - origin.y}});
         }
     }
-    const auto place = [&](const RoutePoint& point) -> map::Pixel {
+    const auto place = [&](const plot::RoutePoint& point) -> map::Pixel {
         const map::Pixel plotted = Plot(view, point.position);
         const map::Pixel centre = state_.map.mapImage ? map::Pixel{}
                                                       : map::Pixel{.x = view.surface.width / 2.0,
@@ -246,19 +248,19 @@ void MapPainter::DrawLines(QImage& frame, const MapView& view) const
     };
     const auto points = view.route.Points();
     for (std::size_t i = 1; i < points.size(); ++i) {
-        if (points[i].pen == Pen::Down) {
+        if (points[i].pen == plot::Pen::Down) {
             lines.Draw({.from = place(points[i - 1]), .to = place(points[i])});
         }
     }
 }
 
-std::optional<MarkerSource> MapPainter::MarkerAt(SurfacePoint point) const
+std::optional<MarkerSource> MapPainter::MarkerAt(plot::SurfacePoint point) const
 {
     const auto x = static_cast<int>(point.x * scale_);
     const auto y = static_cast<int>(point.y * scale_);
     for (std::size_t i = markers_.size(); i-- > 0;) {
         const std::string_view label = layer_.Text(markers_[i].label);
-        const PixelBox plate = marker_->Plate(markers_[i].at, marker_->TextWidth(label));
+        const plot::PixelBox plate = marker_->Plate(markers_[i].at, marker_->TextWidth(label));
         if (x >= plate.left && x < plate.right && y >= plate.top && y < plate.bottom) {
             return sources_[i];
         }

@@ -43,36 +43,37 @@ public:
     // Draws everything anew: ground, polar scale, marked and unmarked stations in the order of the
     // database, Station 1 and 2, reference points, grid, route. `frame` is a 32-bit picture without
     // alpha with `scale` pixels per surface unit, `plate` the colour under markers and labels.
-    void Redraw(QImage& frame, const MapView& view, qreal scale, QColor plate);
+    void Redraw(QImage& frame, const plot::MapView& view, qreal scale, QColor plate);
 
     // Whose marker is the topmost at a point of the frame drawn last.
-    std::optional<MarkerSource> MarkerAt(SurfacePoint point) const;
+    std::optional<MarkerSource> MarkerAt(plot::SurfacePoint point) const;
 
     // The markers of the frame drawn last, in the order of drawing.
     std::span<const Marker> Markers() const { return markers_; }
     std::string_view LabelOf(const Marker& marker) const { return layer_.Text(marker.label); }
 
 private:
-    void DrawGround(QImage& frame, const MapView& view, const MarkerPainter& marker);
-    void DrawLines(QImage& frame, const MapView& view) const;
-    void CollectMarkers(const MapView& view);
-    void CollectStations(const MapView& view);
+    void DrawGround(QImage& frame, const plot::MapView& view, const MarkerPainter& marker);
+    void DrawLines(QImage& frame, const plot::MapView& view) const;
+    void CollectMarkers(const plot::MapView& view);
+    void CollectStations(const plot::MapView& view);
     void UpdateLabels();
-    ImageModel CurrentModel() const;
+    plot::ImageModel CurrentModel() const;
 
     // Offset from the centre in the polar view, surface position in the map view; unrounded.
-    map::Pixel Plot(const MapView& view, geo::GeoPosition position) const;
+    map::Pixel Plot(const plot::MapView& view, geo::GeoPosition position) const;
 
     // Adds the marker unless it stands too far outside.
-    void AddMarker(const MapView& view, map::Pixel plotted, LabelId label, MarkerSource source);
+    void AddMarker(const plot::MapView& view, map::Pixel plotted, plot::LabelId label,
+                   MarkerSource source);
 
     const app::AppState& state_;
     const MapImage& image_;
     const app::MainWindowPort& mainWindow_;
 
-    StationPlot plot_;
+    plot::StationPlot plot_;
     MarkerLayer layer_;
-    std::vector<LabelId> recordLabels_;
+    std::vector<plot::LabelId> recordLabels_;
     std::vector<Marker> markers_;
     std::vector<MarkerSource> sources_;  // of markers_
     std::optional<MarkerPainter> marker_;
@@ -81,7 +82,7 @@ private:
     // The polar scale as drawn last, and what it was drawn for.
     struct ScaleKey {
         QSize frame;
-        Extent surface;
+        plot::Extent surface;
         qreal scale;
         std::int16_t zoomLevel;
         QRgb plate;

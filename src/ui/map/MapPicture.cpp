@@ -12,7 +12,7 @@ namespace ui {
 
 namespace {
 
-SurfacePoint ToSurface(QPoint point)
+plot::SurfacePoint ToSurface(QPoint point)
 {
     return {.x = point.x(), .y = point.y()};
 }

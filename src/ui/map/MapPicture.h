@@ -20,16 +20,16 @@ public:
     // `draw` fills a 32-bit picture with the given number of pixels per surface unit; `hint` says
     // what stands at a point, or nothing.
     using Draw = std::function<void(QImage& frame, qreal scale)>;
-    using Hint = std::function<QString(SurfacePoint point)>;
+    using Hint = std::function<QString(plot::SurfacePoint point)>;
     MapPicture(Draw draw, Hint hint, QWidget* parent);
 
     // The next paint event draws everything anew; several calls until then draw once.
     void Redraw();
 
 signals:
-    void Pressed(ui::SurfacePoint point);  // any button
-    void Clicked();                        // the left button went up again on the surface
-    void Turned(QPoint eighths);           // the wheel, in eighths of a degree
+    void Pressed(plot::SurfacePoint point);  // any button
+    void Clicked();                          // the left button went up again on the surface
+    void Turned(QPoint eighths);             // the wheel, in eighths of a degree
 
 protected:
     void changeEvent(QEvent* event) override;

@@ -12,7 +12,7 @@ namespace {
 // Pictures that the frame does not use are dropped beyond this (64 MB).
 constexpr std::size_t kMostKeptPixels = std::size_t{16} << 20U;
 
-Extent Size(const PixelBox& box)
+plot::Extent Size(const plot::PixelBox& box)
 {
     return {.width = box.right - box.left, .height = box.bottom - box.top};
 }
@@ -36,7 +36,7 @@ void MarkerLayer::Prepare(const MarkerPainter& painter)
     pictures_.resize(labels_.Size());
 }
 
-MarkerLayer::Picture& MarkerLayer::Measured(LabelId label)
+MarkerLayer::Picture& MarkerLayer::Measured(plot::LabelId label)
 {
     Picture& picture = pictures_[label];
     if (picture.textWidth < 0) {
@@ -46,19 +46,19 @@ MarkerLayer::Picture& MarkerLayer::Measured(LabelId label)
     return picture;
 }
 
-void MarkerLayer::FindVisible(Extent picture, std::span<const Marker> markers)
+void MarkerLayer::FindVisible(plot::Extent picture, std::span<const Marker> markers)
 {
     mask_.Reset(picture);
     visible_.clear();
     for (std::size_t i = markers.size(); i-- > 0;) {
         const Marker& marker = markers[i];
         Picture& label = Measured(marker.label);
-        const PixelBox plate = painter_->Plate(marker.at, label.textWidth);
-        const PixelBox reach =
+        const plot::PixelBox plate = painter_->Plate(marker.at, label.textWidth);
+        const plot::PixelBox reach =
             label.staysOnPlate
                 ? plate
                 : painter_->Reach(marker.at, labels_.Text(marker.label), label.textWidth);
-        const PixelBox part = mask_.FreePart(reach);
+        const plot::PixelBox part = mask_.FreePart(reach);
         if (!part.Empty()) {
             mask_.Cover(plate);
             label.inUse = true;
@@ -80,13 +80,13 @@ void MarkerLayer::PaintMissing(std::span<const Marker> markers)
     QImage sheet;
     QPainter painter;
     for (const auto& [index, part] : visible_) {
-        const LabelId label = markers[index].label;
+        const plot::LabelId label = markers[index].label;
         Picture& picture = pictures_[label];
         if (!picture.staysOnPlate || !picture.pixels.empty()) {
             continue;
         }
-        const PixelBox plate = painter_->Plate({}, picture.textWidth);
-        const Extent size = Size(plate);
+        const plot::PixelBox plate = painter_->Plate({}, picture.textWidth);
+        const plot::Extent size = Size(plate);
         if (size.width > sheet.width() || size.height > sheet.height()) {
             if (painter.isActive()) {
                 painter.end();
@@ -107,10 +107,10 @@ void MarkerLayer::PaintMissing(std::span<const Marker> markers)
     }
 }
 
-void MarkerLayer::Copy(const Target& target, const Marker& marker, const PixelBox& part) const
+void MarkerLayer::Copy(const Target& target, const Marker& marker, const plot::PixelBox& part) const
 {
     const Picture& label = pictures_[marker.label];
-    const PixelBox plate = painter_->Plate(marker.at, label.textWidth);
+    const plot::PixelBox plate = painter_->Plate(marker.at, label.textWidth);
     const auto width = static_cast<std::ptrdiff_t>(plate.right - plate.left);
     const auto bytes = static_cast<std::size_t>(part.right - part.left) * sizeof(QRgb);
     const QRgb* from =

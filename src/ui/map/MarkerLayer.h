@@ -22,15 +22,15 @@
 namespace ui {
 
 struct Marker {
-    SurfacePoint at;
-    LabelId label = 0;
+    plot::SurfacePoint at;
+    plot::LabelId label = 0;
 };
 
 class MarkerLayer {
 public:
     // Number of a label, for Marker; in the code page of the records. Numbers hold until Restart.
-    LabelId Number(std::string_view text) { return labels_.Number(text); }
-    std::string_view Text(LabelId label) const { return labels_.Text(label); }
+    plot::LabelId Number(std::string_view text) { return labels_.Number(text); }
+    std::string_view Text(plot::LabelId label) const { return labels_.Text(label); }
     std::size_t LabelCount() const { return labels_.Size(); }
 
     // Pixels of the pictures kept for later frames.
@@ -57,22 +57,22 @@ private:
     };
 
     void Prepare(const MarkerPainter& painter);
-    Picture& Measured(LabelId label);
-    void FindVisible(Extent picture, std::span<const Marker> markers);
+    Picture& Measured(plot::LabelId label);
+    void FindVisible(plot::Extent picture, std::span<const Marker> markers);
     void PaintMissing(std::span<const Marker> markers);
     // Copies the part of a marker's picture that no later marker covers.
-    void Copy(const Target& target, const Marker& marker, const PixelBox& part) const;
+    void Copy(const Target& target, const Marker& marker, const plot::PixelBox& part) const;
 
-    LabelPool labels_;
+    plot::LabelPool labels_;
     std::vector<Picture> pictures_;
     std::size_t keptPixels_ = 0;
     std::optional<MarkerPainter> painter_;
-    CoverMask mask_;
+    plot::CoverMask mask_;
 
     // A marker that is not wholly covered.
     struct Visible {
         std::uint32_t index;
-        PixelBox part;  // around all of its pixels that are to be seen
+        plot::PixelBox part;  // around all of its pixels that are to be seen
     };
     std::vector<Visible> visible_;  // the topmost first
 };

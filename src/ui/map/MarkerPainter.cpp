@@ -117,7 +117,7 @@ int MarkerPainter::TextWidth(std::string_view text) const
     return WholeUnits(width, scale_);
 }
 
-PixelBox MarkerPainter::Plate(SurfacePoint at, int textWidth) const
+plot::PixelBox MarkerPainter::Plate(plot::SurfacePoint at, int textWidth) const
 {
     const int x = Device(at.x);
     const int y = Device(at.y);
@@ -130,7 +130,7 @@ PixelBox MarkerPainter::Plate(SurfacePoint at, int textWidth) const
 // Draws each character alone and looks at what it leaves beside the plate.
 void MarkerPainter::FindOverhang()
 {
-    const SurfacePoint at{.x = kOverhang, .y = kOverhang};
+    const plot::SurfacePoint at{.x = kOverhang, .y = kOverhang};
     QImage cell(Device(3 * kOverhang), Device(2 * kOverhang), QImage::Format_RGB32);
     QPainter painter(&cell);
     painter.setFont(font_);
@@ -146,7 +146,7 @@ void MarkerPainter::FindOverhang()
                          Device(at.y) + Device(kTextTop + kLabelBaseline), Shown({&character, 1}));
         // The text's width is rounded to whole units: what reaches into the last unit of the plate
         // may be outside.
-        const PixelBox plate = Plate(at, static_cast<int>(known.advance / scale_));
+        const plot::PixelBox plate = Plate(at, static_cast<int>(known.advance / scale_));
         painter.fillRect(plate.left, plate.top, plate.right - plate.left - Device(1),
                          plate.bottom - plate.top, Qt::black);
         const auto* const first = reinterpret_cast<const QRgb*>(cell.constBits());
@@ -162,9 +162,10 @@ bool MarkerPainter::StaysOnPlate(std::string_view text) const
     });
 }
 
-PixelBox MarkerPainter::Reach(SurfacePoint at, std::string_view text, int textWidth) const
+plot::PixelBox MarkerPainter::Reach(plot::SurfacePoint at, std::string_view text,
+                                    int textWidth) const
 {
-    PixelBox box = Plate(at, textWidth);
+    plot::PixelBox box = Plate(at, textWidth);
     if (!StaysOnPlate(text)) {
         const int margin = Device(kOverhang);
         box.left -= margin;
@@ -175,9 +176,10 @@ PixelBox MarkerPainter::Reach(SurfacePoint at, std::string_view text, int textWi
     return box;
 }
 
-void MarkerPainter::DrawMarker(QPainter& painter, SurfacePoint at, std::string_view text) const
+void MarkerPainter::DrawMarker(QPainter& painter, plot::SurfacePoint at,
+                               std::string_view text) const
 {
-    const PixelBox plate = Plate(at, TextWidth(text));
+    const plot::PixelBox plate = Plate(at, TextWidth(text));
     painter.fillRect(plate.left, plate.top, plate.right - plate.left, plate.bottom - plate.top,
                      plate_);
     const int x = Device(at.x);

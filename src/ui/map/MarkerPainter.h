@@ -36,17 +36,17 @@ public:
     int TextWidth(std::string_view text) const;
 
     // Device pixels of the plate under a label of the given width.
-    PixelBox Plate(SurfacePoint at, int textWidth) const;
+    plot::PixelBox Plate(plot::SurfacePoint at, int textWidth) const;
 
     // True when the text surely lies on its plate to the last pixel. Accents on capitals reach
     // above it.
     bool StaysOnPlate(std::string_view text) const;
 
     // Every pixel that the marker may touch.
-    PixelBox Reach(SurfacePoint at, std::string_view text, int textWidth) const;
+    plot::PixelBox Reach(plot::SurfacePoint at, std::string_view text, int textWidth) const;
 
     // `painter` draws in device pixels, without antialiasing of shapes.
-    void DrawMarker(QPainter& painter, SurfacePoint at, std::string_view text) const;
+    void DrawMarker(QPainter& painter, plot::SurfacePoint at, std::string_view text) const;
 
     QColor PlateColour() const { return plate_; }
     QColor Ink() const { return ink_; }

@@ -16,7 +16,7 @@ constexpr int kPlateTop = 4;
 constexpr int kPlateBottom = 12;
 constexpr int kTextTop = 2;
 
-void DrawLabel(QPainter& painter, SurfacePoint top, const std::string& label, qreal scale,
+void DrawLabel(QPainter& painter, plot::SurfacePoint top, const std::string& label, qreal scale,
                const MarkerPainter& marker)
 {
     const int width = marker.TextWidth(label);
@@ -37,23 +37,23 @@ void DrawLabel(QPainter& painter, SurfacePoint top, const std::string& label, qr
 
 }  // namespace
 
-void DrawPolarScale(QImage& picture, Extent surface, int zoomLevel, qreal scale,
+void DrawPolarScale(QImage& picture, plot::Extent surface, int zoomLevel, qreal scale,
                     const MarkerPainter& marker, const base::NumberFormat& format)
 {
-    const PolarScale polar = DrawPolarScale(surface, zoomLevel, format);
+    const plot::PolarScale polar = DrawPolarScale(surface, zoomLevel, format);
     picture.fill(kPolarGround);
     {
         LinePainter lines(picture, surface, scale);
-        for (const Segment& radial : polar.radials) {
+        for (const plot::Segment& radial : polar.radials) {
             lines.Draw(radial.from, radial.to);
         }
-        for (const RangeRing& ring : polar.rings) {
+        for (const plot::RangeRing& ring : polar.rings) {
             lines.DrawCircle(polar.centre, ring.radius);
         }
     }
     QPainter painter(&picture);
     painter.setFont(LabelFont(scale));
-    for (const RangeRing& ring : polar.rings) {
+    for (const plot::RangeRing& ring : polar.rings) {
         DrawLabel(painter, {.x = polar.centre.x, .y = polar.centre.y - ring.radius}, ring.label,
                   scale, marker);
     }

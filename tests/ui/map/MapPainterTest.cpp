@@ -81,7 +81,8 @@ protected:
     }
 
     // The frame without any marker, and the markers on it one by one.
-    QImage Expected(QImage ground, const std::vector<std::pair<SurfacePoint, std::string>>& markers,
+    QImage Expected(QImage ground,
+                    const std::vector<std::pair<plot::SurfacePoint, std::string>>& markers,
                     QColor ink) const
     {
         const MarkerPainter marker(1.0, kPlate, ink);
@@ -96,7 +97,7 @@ protected:
     MapImage image;
     FakeMainWindow mainWindow{state};
     MapPainter painter{state, image, mainWindow};
-    MapView view;
+    plot::MapView view;
 };
 
 geo::GeoPosition North(double kilometres)
@@ -184,8 +185,8 @@ TEST_F(MapPainterTest, DrawsInTheOrderOfTheDatabaseThenStation1Station2AndRefere
     Frame();
     EXPECT_EQ(Labels(), (std::vector<std::string>{"B", "A", "EINS", "ZWEI", "(REF1)", "(REF2)",
                                                   "(REF3)", "(REF4)"}));
-    EXPECT_EQ(painter.Markers()[4].at, (SurfacePoint{-10, -20}));
-    EXPECT_EQ(painter.Markers()[7].at, (SurfacePoint{990, 780}));
+    EXPECT_EQ(painter.Markers()[4].at, (plot::SurfacePoint{-10, -20}));
+    EXPECT_EQ(painter.Markers()[7].at, (plot::SurfacePoint{990, 780}));
 }
 
 TEST_F(MapPainterTest, SwitchesShowAndHide)
@@ -292,7 +293,7 @@ TEST_F(MapPainterTest, RingsAndRadialsStandAtTheirPlaces)
 {
     struct Case {
         std::int16_t zoomLevel;
-        Extent surface;
+        plot::Extent surface;
     };
     for (const Case& c : {Case{1, {800, 600}}, Case{14, {800, 600}}, Case{33, {800, 600}},
                           Case{1, {420, 280}}, Case{14, {420, 280}}, Case{33, {420, 280}}}) {
@@ -307,7 +308,7 @@ TEST_F(MapPainterTest, RingsAndRadialsStandAtTheirPlaces)
         EXPECT_EQ(frame.pixelColor(cx, c.surface.height - 3), kLineColour);
         EXPECT_EQ(frame.pixelColor(3, cy), kLineColour);
         EXPECT_EQ(frame.pixelColor(cx + 4, c.surface.height - 9), kPolarGround);
-        const MapScale scale = ComputeScale(c.zoomLevel);
+        const plot::MapScale scale = plot::ComputeScale(c.zoomLevel);
         for (int ring = 1; ring <= scale.RingCount(); ++ring) {
             const int radius = static_cast<int>(base::RoundHalfEven(
                 static_cast<double>(ring) * scale.ringSpacing * cy / scale.viewRange));
@@ -366,10 +367,10 @@ TEST_F(MapPainterTest, RouteJoinsThePointsOfEachChain)
     const auto at = [](double x, double y) {
         return geo::GeoPosition{.latitude = 49.0 - y / 400.0, .longitude = 10.0 + x / 500.0};
     };
-    view.route.Append({Pen::Up, at(100, 100)});
-    view.route.Append({Pen::Down, at(300, 100)});
-    view.route.Append({Pen::Up, at(300, 300)});
-    view.route.Append({Pen::Down, at(500, 300)});
+    view.route.Append({plot::Pen::Up, at(100, 100)});
+    view.route.Append({plot::Pen::Down, at(300, 100)});
+    view.route.Append({plot::Pen::Up, at(300, 300)});
+    view.route.Append({plot::Pen::Down, at(500, 300)});
     const QImage frame = Frame();
     EXPECT_EQ(frame.pixelColor(200, 100), kLineColour);
     EXPECT_EQ(frame.pixelColor(400, 300), kLineColour);
@@ -381,11 +382,11 @@ TEST_F(MapPainterTest, RouteJoinsThePointsOfEachChain)
 
 TEST_F(MapPainterTest, RouteGoesThroughThePolarViewToo)
 {
-    view.route.Append({Pen::Up, kHome});
-    view.route.Append({Pen::Down, {48.0, 11.2}});     // 14.9 km due east
-    view.route.Append({Pen::Down, {-48.0, -169.0}});  // and to the other end of the world
+    view.route.Append({plot::Pen::Up, kHome});
+    view.route.Append({plot::Pen::Down, {48.0, 11.2}});     // 14.9 km due east
+    view.route.Append({plot::Pen::Down, {-48.0, -169.0}});  // and to the other end of the world
     const QImage ground = [this] {
-        const Route route = view.route;
+        const plot::Route route = view.route;
         view.route.Clear();
         QImage frame = Frame();
         view.route = route;
@@ -401,7 +402,8 @@ TEST_F(MapPainterTest, GridIsDrawnInTheMapViewWhileTheReferenceModeIsOn)
 {
     ShowMap();
     UseReferences();
-    view.grid = MakeGrid(state.map.references, image.Size(), map::Refinement::On);  // 5 minutes
+    view.grid =
+        plot::MakeGrid(state.map.references, image.Size(), map::Refinement::On);  // 5 minutes
     ASSERT_TRUE(view.grid.has_value());
     view.clipOrigin = {.x = 100, .y = 50};
     // 48 N is row 400, 11 E column 500 of the image; the next lines are 33 1/3 and 41 2/3 away.

@@ -16,11 +16,11 @@ constexpr QColor kPlate{0x30, 0x8C, 0xC6};
 constexpr QColor kInk{0xEE, 0xEE, 0xEE};
 
 struct LabelledPoint {
-    SurfacePoint at;
+    plot::SurfacePoint at;
     std::string label;
 };
 
-QImage NewPicture(Extent surface, qreal scale)
+QImage NewPicture(plot::Extent surface, qreal scale)
 {
     QImage picture(qRound(surface.width * scale), qRound(surface.height * scale),
                    QImage::Format_RGB32);
@@ -35,7 +35,7 @@ const MarkerPainter& PainterAt(qreal scale)
 }
 
 // One marker after the other, nothing left out, nothing kept.
-QImage PaintedPlainly(const std::vector<LabelledPoint>& points, Extent surface, qreal scale)
+QImage PaintedPlainly(const std::vector<LabelledPoint>& points, plot::Extent surface, qreal scale)
 {
     QImage picture = NewPicture(surface, scale);
     const MarkerPainter& marker = PainterAt(scale);
@@ -46,8 +46,8 @@ QImage PaintedPlainly(const std::vector<LabelledPoint>& points, Extent surface, 
     return picture;
 }
 
-QImage PaintedAtOnce(MarkerLayer& layer, const std::vector<LabelledPoint>& points, Extent surface,
-                     qreal scale)
+QImage PaintedAtOnce(MarkerLayer& layer, const std::vector<LabelledPoint>& points,
+                     plot::Extent surface, qreal scale)
 {
     QImage picture = NewPicture(surface, scale);
     std::vector<Marker> markers;
@@ -61,7 +61,7 @@ QImage PaintedAtOnce(MarkerLayer& layer, const std::vector<LabelledPoint>& point
 
 class Points {
 public:
-    std::vector<LabelledPoint> Next(int count, Extent surface)
+    std::vector<LabelledPoint> Next(int count, plot::Extent surface)
     {
         std::uniform_int_distribution<int> x(-60, surface.width + 20);
         std::uniform_int_distribution<int> y(-20, surface.height + 20);
@@ -102,7 +102,7 @@ TEST(MarkerLayer, GivesThePixelsOfPlainPainting)
         MarkerLayer layer;  // kept from frame to frame, as in the window
         for (const int count : {0, 1, 40, 400, 4000}) {
             SCOPED_TRACE(testing::Message() << count << " markers at scale " << scale);
-            const Extent surface{301, 203};
+            const plot::Extent surface{301, 203};
             const std::vector<LabelledPoint> scene = points.Next(count, surface);
             const QImage plain = PaintedPlainly(scene, surface, scale);
             EXPECT_EQ(PaintedAtOnce(layer, scene, surface, scale), plain);

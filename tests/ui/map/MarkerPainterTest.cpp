@@ -14,7 +14,7 @@ constexpr QColor kGround{0xFF, 0x00, 0x00};
 constexpr QColor kPlate{0x30, 0x8C, 0xC6};
 constexpr QColor kInk{0xCC, 0xCC, 0xCC};
 
-QImage Painted(const MarkerPainter& marker, SurfacePoint at, std::string_view text, int scale)
+QImage Painted(const MarkerPainter& marker, plot::SurfacePoint at, std::string_view text, int scale)
 {
     QImage picture(200 * scale, 60 * scale, QImage::Format_RGB32);
     picture.fill(kGround);
