@@ -26,14 +26,14 @@
 #include "ui/map/FakeMainWindow.h"
 #include "ui/map/Gform.h"
 #include "ui/map/MapPainter.h"
-#include "ui/map/MapPicture.h"
+#include "ui/map/MapSurface.h"
 
 namespace {
 
 using namespace Qt::StringLiterals;
 
 constexpr int kStations = 25'000;
-constexpr plot::Extent kSurface{1200, 800};
+constexpr plot::SurfaceSize kSurface{1200, 800};
 constexpr QSize kImage{3000, 2000};
 constexpr QColor kPlate{0x30, 0x8C, 0xC6};
 

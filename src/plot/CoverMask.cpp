@@ -12,7 +12,7 @@ constexpr std::uint64_t kAll = ~std::uint64_t{0};
 
 }  // namespace
 
-void CoverMask::Reset(Extent picture)
+void CoverMask::Reset(SurfaceSize picture)
 {
     picture_ = {.width = std::max(picture.width, 0), .height = std::max(picture.height, 0)};
     wordsPerRow_ = (static_cast<std::size_t>(picture_.width) + kBits - 1) / kBits;

@@ -28,7 +28,7 @@ struct PixelBox {
 class CoverMask {
 public:
     // All pixels free.
-    void Reset(Extent picture);
+    void Reset(SurfaceSize picture);
 
     // The smallest box around the pixels of `box` that are in the picture and free; an empty one
     // when there are none.
@@ -52,7 +52,7 @@ private:
     };
     Span Clip(const PixelBox& box) const;
 
-    Extent picture_;
+    SurfaceSize picture_;
     std::size_t wordsPerRow_ = 0;
     std::vector<Word> taken_;
 };

@@ -35,7 +35,7 @@ struct Stretch {
 
 }  // namespace
 
-std::optional<Line> ClipLine(const Line& line, Extent surface)
+std::optional<Line> ClipLine(const Line& line, SurfaceSize surface)
 {
     const double dx = line.to.x - line.from.x;
     const double dy = line.to.y - line.from.y;

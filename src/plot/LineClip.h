@@ -18,6 +18,6 @@ struct Line {
 
 // The part of a line within a few units of the surface; none when nothing of it is there or an end
 // is not finite. A line that lies within is returned as it is.
-std::optional<Line> ClipLine(const Line& line, Extent surface);
+std::optional<Line> ClipLine(const Line& line, SurfaceSize surface);
 
 }  // namespace plot

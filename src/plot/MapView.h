@@ -4,7 +4,7 @@
 
 #include <optional>
 
-#include "plot/MapGrid.h"
+#include "plot/GridNodes.h"
 #include "plot/PlotPosition.h"
 #include "plot/Route.h"
 #include "plot/ViewLayout.h"
@@ -12,7 +12,7 @@
 namespace plot {
 
 struct MapView {
-    Extent surface;
+    SurfaceSize surface;
     SurfacePoint clipOrigin;  // image pixel in the surface's upper left corner
     bool showMarked = true;   // stations whose line in the list is marked
     bool showUnmarked = true;

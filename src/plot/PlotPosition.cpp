@@ -56,12 +56,12 @@ map::Pixel PolarOffset(const PolarPosition& position, double scale)
     return {.x = radius * position.cosine, .y = radius * position.sine};
 }
 
-double PolarUnitsPerKilometre(Extent surface, float viewRange)
+double PolarUnitsPerKilometre(SurfaceSize surface, float viewRange)
 {
     return surface.height / 2.0 / static_cast<double>(viewRange);
 }
 
-SurfacePoint AtCentre(Extent surface, SurfacePoint offset)
+SurfacePoint AtCentre(SurfaceSize surface, SurfacePoint offset)
 {
     return {
         .x = static_cast<int>(base::RoundHalfEven(surface.width / 2.0 + offset.x)),

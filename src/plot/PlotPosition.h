@@ -39,11 +39,11 @@ PolarPosition PolarFrom(geo::GeoPosition station1, geo::GeoPosition position);
 map::Pixel PolarOffset(const PolarPosition& position, double scale);
 
 // Surface units per km: the view range reaches the upper edge.
-double PolarUnitsPerKilometre(Extent surface, float viewRange);
+double PolarUnitsPerKilometre(SurfaceSize surface, float viewRange);
 
 // Where an offset from the centre stands on the surface; the centre of an odd width or height is a
 // half unit.
-SurfacePoint AtCentre(Extent surface, SurfacePoint offset);
+SurfacePoint AtCentre(SurfaceSize surface, SurfacePoint offset);
 
 // Image pixel by linear interpolation between the edges. Edges that are equal give a pixel that is
 // not finite, which WholePosition leaves out.

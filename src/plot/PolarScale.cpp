@@ -16,7 +16,7 @@ int Whole(double value)
     return base::Saturate<int>(base::RoundHalfEven(value));
 }
 
-std::vector<Segment> Radials(Extent surface)
+std::vector<Segment> Radials(SurfaceSize surface)
 {
     const double cx = surface.width / 2.0;
     const double cy = surface.height / 2.0;
@@ -34,9 +34,9 @@ std::vector<Segment> Radials(Extent surface)
 
 }  // namespace
 
-PolarScale DrawPolarScale(Extent surface, int zoomLevel, const base::NumberFormat& format)
+PolarScale MakePolarScale(SurfaceSize surface, int zoomLevel, const base::NumberFormat& format)
 {
-    const MapScale scale = ComputeScale(zoomLevel);
+    const ZoomScale scale = ComputeScale(zoomLevel);
     const double cy = surface.height / 2.0;
     PolarScale result{
         .centre = {Whole(surface.width / 2.0), Whole(cy)},

@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "base/NumberText.h"
-#include "plot/MapScale.h"
 #include "plot/PlotPosition.h"
 #include "plot/ViewLayout.h"
+#include "plot/ZoomLevels.h"
 
 namespace plot {
 
@@ -33,6 +33,6 @@ struct PolarScale {
 
 // The lines next to the horizontal leave the surface at its sides. With rings 0.9 km or more apart
 // all labels are kilometres ("2 km"), otherwise all are metres ("500 m").
-PolarScale DrawPolarScale(Extent surface, int zoomLevel, const base::NumberFormat& format);
+PolarScale MakePolarScale(SurfaceSize surface, int zoomLevel, const base::NumberFormat& format);
 
 }  // namespace plot

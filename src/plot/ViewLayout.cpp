@@ -6,13 +6,13 @@ namespace plot {
 
 namespace {
 
-Extent AtLeastSmallest(Extent area)
+SurfaceSize AtLeastSmallest(SurfaceSize area)
 {
     return {.width = std::max(area.width, kSmallestSurface),
             .height = std::max(area.height, kSmallestSurface)};
 }
 
-Extent Available(Extent inner)
+SurfaceSize Available(SurfaceSize inner)
 {
     return AtLeastSmallest(
         {.width = inner.width - kRightStrip, .height = inner.height - kLowerStrip});
@@ -20,15 +20,15 @@ Extent Available(Extent inner)
 
 }  // namespace
 
-ViewLayout PolarLayout(Extent inner)
+ViewLayout PolarLayout(SurfaceSize inner)
 {
     return {.surface = Available(inner)};
 }
 
-ViewLayout ImageLayout(Extent inner, Extent image)
+ViewLayout ImageLayout(SurfaceSize inner, SurfaceSize image)
 {
     ViewLayout layout{.surface = Available(inner)};
-    Extent& area = layout.surface;
+    SurfaceSize& area = layout.surface;
     for (bool changed = true; changed;) {
         changed = false;
         if (image.width > area.width && !layout.horizontalBar) {

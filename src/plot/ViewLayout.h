@@ -5,11 +5,11 @@
 namespace plot {
 
 // Whole surface units.
-struct Extent {
+struct SurfaceSize {
     int width = 0;
     int height = 0;
 
-    bool operator==(const Extent&) const = default;
+    bool operator==(const SurfaceSize&) const = default;
 };
 
 inline constexpr int kRightStrip = 80;    // beside the surface: buttons, list and vertical bar
@@ -18,7 +18,7 @@ inline constexpr int kBarThickness = 20;  // of a scroll bar
 inline constexpr int kSmallestSurface = 20;
 
 struct ViewLayout {
-    Extent surface;
+    SurfaceSize surface;
     bool horizontalBar = false;
     bool verticalBar = false;
 
@@ -26,10 +26,10 @@ struct ViewLayout {
 };
 
 // The polar view fills the area that the strips leave, at least 20 x 20.
-ViewLayout PolarLayout(Extent inner);
+ViewLayout PolarLayout(SurfaceSize inner);
 
 // The map view: a dimension in which the image fits takes the image's size. A bar takes room from
 // the other dimension, so that one bar can make the second one necessary.
-ViewLayout ImageLayout(Extent inner, Extent image);
+ViewLayout ImageLayout(SurfaceSize inner, SurfaceSize image);
 
 }  // namespace plot

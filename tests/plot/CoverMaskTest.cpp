@@ -48,7 +48,7 @@ TEST(CoverMask, EmptyPictureHoldsNothing)
 
 TEST(CoverMask, AgreesWithCountingPixels)
 {
-    constexpr Extent kPicture{150, 40};
+    constexpr SurfaceSize kPicture{150, 40};
     std::mt19937 random(20);  // NOLINT: the same boxes in every run
     std::uniform_int_distribution<int> x(-20, 160);
     std::uniform_int_distribution<int> y(-10, 45);

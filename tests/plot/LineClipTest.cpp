@@ -8,7 +8,7 @@
 namespace plot {
 namespace {
 
-constexpr Extent kSurface{800, 600};
+constexpr SurfaceSize kSurface{800, 600};
 
 TEST(ClipLine, LeavesALineOnTheSurfaceAsItIs)
 {

@@ -8,7 +8,7 @@
 
 #include "base/Rounding.h"
 #include "geo/Distance.h"
-#include "plot/MapScale.h"
+#include "plot/ZoomLevels.h"
 
 namespace plot {
 namespace {
@@ -22,7 +22,7 @@ geo::GeoPosition North(double kilometres)
             .longitude = kHome.longitude};
 }
 
-SurfacePoint PolarPlot(geo::GeoPosition position, Extent surface, int zoomLevel)
+SurfacePoint PolarPlot(geo::GeoPosition position, SurfaceSize surface, int zoomLevel)
 {
     const double scale = PolarUnitsPerKilometre(surface, ComputeScale(zoomLevel).ViewRange());
     const map::Pixel offset = PolarOffset(PolarFrom(kHome, position), scale);

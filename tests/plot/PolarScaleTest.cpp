@@ -11,19 +11,19 @@ std::vector<std::string> Labels(int zoomLevel)
 {
     std::vector<std::string> labels;
     for (const RangeRing& ring :
-         DrawPolarScale({800, 600}, zoomLevel, base::NumberFormat()).rings) {
+         MakePolarScale({800, 600}, zoomLevel, base::NumberFormat()).rings) {
         labels.push_back(ring.label);
     }
     return labels;
 }
 
-TEST(DrawPolarScale, LabelsTheRingsOfTheStartLevelInKilometres)
+TEST(MakePolarScale, LabelsTheRingsOfTheStartLevelInKilometres)
 {
     EXPECT_EQ(Labels(14), (std::vector<std::string>{"2 km", "4 km", "6 km", "8 km", "10 km",
                                                     "12 km", "14 km", "16 km", "18 km"}));
 }
 
-TEST(DrawPolarScale, LabelsTheRingsOfTheNearestLevelInMetres)
+TEST(MakePolarScale, LabelsTheRingsOfTheNearestLevelInMetres)
 {
     const std::vector<std::string> labels = Labels(1);
     ASSERT_EQ(labels.size(), 18U);
@@ -32,7 +32,7 @@ TEST(DrawPolarScale, LabelsTheRingsOfTheNearestLevelInMetres)
     EXPECT_EQ(labels.back(), "18 m");
 }
 
-TEST(DrawPolarScale, ChangesTheUnitOfAllLabelsAtOnce)
+TEST(MakePolarScale, ChangesTheUnitOfAllLabelsAtOnce)
 {
     // 0.5 km apart: all metres, 4.5 km and 5 km included; 1 km apart: all kilometres.
     for (const std::string& label : Labels(11)) {
@@ -44,27 +44,27 @@ TEST(DrawPolarScale, ChangesTheUnitOfAllLabelsAtOnce)
     }
 }
 
-TEST(DrawPolarScale, PutsTheRingOfTheViewRangeOnTheUpperEdge)
+TEST(MakePolarScale, PutsTheRingOfTheViewRangeOnTheUpperEdge)
 {
-    const PolarScale scale = DrawPolarScale({1000, 600}, 14, base::NumberFormat());
+    const PolarScale scale = MakePolarScale({1000, 600}, 14, base::NumberFormat());
     EXPECT_EQ(scale.centre, (SurfacePoint{500, 300}));
     EXPECT_EQ(scale.rings[4].radius, 300);  // 10 km
     EXPECT_EQ(scale.rings[0].radius, 60);
     EXPECT_EQ(scale.rings[8].radius, 540);
 }
 
-TEST(DrawPolarScale, RoundsRadiiToTheNearestAndHalvesToTheEven)
+TEST(MakePolarScale, RoundsRadiiToTheNearestAndHalvesToTheEven)
 {
     // 0.05 km of 0.3 km on a half height of 15: 2.5, then 5, 7.5.
-    const PolarScale scale = DrawPolarScale({40, 30}, 6, base::NumberFormat());
+    const PolarScale scale = MakePolarScale({40, 30}, 6, base::NumberFormat());
     EXPECT_EQ(scale.rings[0].radius, 2);
     EXPECT_EQ(scale.rings[1].radius, 5);
     EXPECT_EQ(scale.rings[2].radius, 8);
 }
 
-TEST(DrawPolarScale, DrawsARadialEveryTenDegreesThroughTheCentre)
+TEST(MakePolarScale, DrawsARadialEveryTenDegreesThroughTheCentre)
 {
-    const PolarScale scale = DrawPolarScale({800, 600}, 14, base::NumberFormat());
+    const PolarScale scale = MakePolarScale({800, 600}, 14, base::NumberFormat());
     ASSERT_EQ(scale.radials.size(), 19U);
     EXPECT_EQ(scale.radials[0], (Segment{{400, 600}, {400, 0}}));  // both lines at 0 degrees
     EXPECT_EQ(scale.radials[1], scale.radials[0]);

@@ -12,7 +12,8 @@ TEST(PolarLayout, LeavesTheStripsAtTheRightAndBelow)
 
 TEST(PolarLayout, IsNeverSmallerThanTwentyUnits)
 {
-    for (const Extent inner : {Extent{0, 0}, Extent{-50, 10}, Extent{99, 39}, Extent{100, 40}}) {
+    for (const SurfaceSize inner :
+         {SurfaceSize{0, 0}, SurfaceSize{-50, 10}, SurfaceSize{99, 39}, SurfaceSize{100, 40}}) {
         EXPECT_EQ(PolarLayout(inner), (ViewLayout{.surface = {20, 20}}));
     }
     EXPECT_EQ(PolarLayout({101, 41}), (ViewLayout{.surface = {21, 21}}));
@@ -22,8 +23,8 @@ TEST(ImageLayout, GivesEveryDimensionItsBarOrTheImageSize)
 {
     const struct {
         const char* what;
-        Extent inner;
-        Extent image;
+        SurfaceSize inner;
+        SurfaceSize image;
         ViewLayout expected;
     } cases[] = {
         {"fits both ways", {880, 620}, {500, 400}, {{500, 400}, false, false}},

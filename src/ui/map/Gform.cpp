@@ -10,10 +10,10 @@
 #include <QScrollBar>
 #include <QWindow>
 
-#include "plot/MapScale.h"
 #include "plot/ViewLayout.h"
+#include "plot/ZoomLevels.h"
 #include "ui/Controls.h"
-#include "ui/map/MapPicture.h"
+#include "ui/map/MapSurface.h"
 
 namespace ui {
 
@@ -85,7 +85,7 @@ void Gform::AddControls()
     VScroll1 = bar(Qt::Vertical, u"VScroll1"_s, u"Bildausschnitt senkrecht"_s);
 
     Picture1 =
-        Named(new MapPicture(
+        Named(new MapSurface(
                   [this](QImage& frame, qreal scale) {
                       painter_.Redraw(frame, view_, scale,
                                       palette().color(QPalette::Active, QPalette::Highlight));
@@ -94,10 +94,10 @@ void Gform::AddControls()
               u"Picture1"_s);
     Picture1->setAccessibleName(u"Kartenfläche"_s);
     Picture1->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(Picture1, &MapPicture::Pressed, this, &Gform::Press);
-    connect(Picture1, &MapPicture::Clicked, this, &Gform::Click);
-    connect(Picture1, &MapPicture::Turned, this, &Gform::Turn);
-    connect(Picture1, &MapPicture::customContextMenuRequested, this, &Gform::OfferClickModes);
+    connect(Picture1, &MapSurface::Pressed, this, &Gform::Press);
+    connect(Picture1, &MapSurface::Clicked, this, &Gform::Click);
+    connect(Picture1, &MapSurface::Turned, this, &Gform::Turn);
+    connect(Picture1, &MapSurface::customContextMenuRequested, this, &Gform::OfferClickModes);
 
     List1 = Named(new QListWidget(contents), u"List1"_s);  // made last: it unfolds over the surface
     List1->setAccessibleName(u"Eigenschaften"_s);
@@ -166,14 +166,14 @@ void Gform::Activate()
 
 void Gform::Layout()
 {
-    const plot::Extent inner = {.width = centralWidget()->width(),
-                                .height = centralWidget()->height()};
+    const plot::SurfaceSize inner = {.width = centralWidget()->width(),
+                                     .height = centralWidget()->height()};
     const map::ImageSize image = image_.Size();
     const plot::ViewLayout layout =
         state_.map.mapImage
             ? plot::ImageLayout(inner, {.width = image.width, .height = image.height})
             : plot::PolarLayout(inner);
-    const plot::Extent& surface = view_.surface = layout.surface;
+    const plot::SurfaceSize& surface = view_.surface = layout.surface;
     Picture1->setGeometry(0, 0, surface.width, surface.height);
 
     const auto place = [](QScrollBar* bar, bool needed, int hidden, int page) {

@@ -24,7 +24,7 @@ class QScrollBar;
 
 namespace ui {
 
-class MapPicture;
+class MapSurface;
 class UserDialogs;
 
 class Gform : public QMainWindow {
@@ -47,7 +47,7 @@ public:
     QListWidget* List1 = nullptr;     // the properties report; a click opens it
     QScrollBar* HScroll1 = nullptr;   // the clip's place in the image, map view
     QScrollBar* VScroll1 = nullptr;
-    MapPicture* Picture1 = nullptr;  // the drawing surface
+    MapSurface* Picture1 = nullptr;  // the drawing surface
 
 protected:
     bool event(QEvent* event) override;

@@ -6,13 +6,13 @@
 #include <QPointer>
 #include <QScrollBar>
 
-#include "plot/MapGrid.h"
+#include "plot/GridNodes.h"
 #include "ui/FileNameText.h"
 #include "ui/UserDialogs.h"
 #include "ui/map/Gform.h"
 #include "ui/map/MapHint.h"
-#include "ui/map/MapPicture.h"
 #include "ui/map/MapProperties.h"
+#include "ui/map/MapSurface.h"
 
 namespace ui {
 

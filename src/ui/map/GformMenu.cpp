@@ -9,7 +9,7 @@
 
 #include "ui/Controls.h"
 #include "ui/map/Gform.h"
-#include "ui/map/MapPicture.h"
+#include "ui/map/MapSurface.h"
 
 namespace ui {
 

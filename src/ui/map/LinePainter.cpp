@@ -8,7 +8,7 @@ constexpr double kMiddle = 0.5;  // of a unit
 
 }  // namespace
 
-LinePainter::LinePainter(QImage& picture, plot::Extent surface, qreal scale)
+LinePainter::LinePainter(QImage& picture, plot::SurfaceSize surface, qreal scale)
     : painter_(&picture), surface_(surface)
 {
     painter_.setRenderHint(QPainter::Antialiasing);

@@ -18,7 +18,7 @@ inline constexpr QColor kLineColour{0x00, 0x00, 0x45};
 // the middles of their pixels, so that upright and level lines are sharp.
 class LinePainter {
 public:
-    LinePainter(QImage& picture, plot::Extent surface, qreal scale);
+    LinePainter(QImage& picture, plot::SurfaceSize surface, qreal scale);
 
     void Draw(const plot::Line& line);
     void Draw(plot::SurfacePoint from, plot::SurfacePoint to);
@@ -26,7 +26,7 @@ public:
 
 private:
     QPainter painter_;
-    plot::Extent surface_;
+    plot::SurfaceSize surface_;
 };
 
 }  // namespace ui

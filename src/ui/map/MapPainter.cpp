@@ -8,7 +8,7 @@
 
 #include "base/Rounding.h"
 #include "map/Georeference.h"
-#include "plot/MapScale.h"
+#include "plot/ZoomLevels.h"
 #include "ui/map/LinePainter.h"
 #include "ui/map/PolarPicture.h"
 
@@ -103,7 +103,7 @@ plot::ImageModel MapPainter::CurrentModel() const
 map::Pixel MapPainter::Plot(const plot::MapView& view, geo::GeoPosition position) const
 {
     if (!state_.map.mapImage) {
-        const plot::MapScale scale = plot::ComputeScale(state_.configuration.displaySize);
+        const plot::ZoomScale scale = plot::ComputeScale(state_.configuration.displaySize);
         return plot::PolarOffset(plot::PolarFrom(state_.shown.position[0], position),
                                  plot::PolarUnitsPerKilometre(view.surface, scale.ViewRange()));
     }
@@ -179,7 +179,7 @@ void MapPainter::CollectStations(const plot::MapView& view)
         }
         return;
     }
-    const plot::MapScale scale = plot::ComputeScale(state_.configuration.displaySize);
+    const plot::ZoomScale scale = plot::ComputeScale(state_.configuration.displaySize);
     const double units = plot::PolarUnitsPerKilometre(view.surface, scale.ViewRange());
     const auto seen = plot_.Polar(records, state_.shown.position[0]);
     for (std::size_t i = 0; i < records.size(); ++i) {

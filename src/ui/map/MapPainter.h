@@ -82,7 +82,7 @@ private:
     // The polar scale as drawn last, and what it was drawn for.
     struct ScaleKey {
         QSize frame;
-        plot::Extent surface;
+        plot::SurfaceSize surface;
         qreal scale;
         std::int16_t zoomLevel;
         QRgb plate;

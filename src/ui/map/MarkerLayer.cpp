@@ -12,7 +12,7 @@ namespace {
 // Pictures that the frame does not use are dropped beyond this (64 MB).
 constexpr std::size_t kMostKeptPixels = std::size_t{16} << 20U;
 
-plot::Extent Size(const plot::PixelBox& box)
+plot::SurfaceSize Size(const plot::PixelBox& box)
 {
     return {.width = box.right - box.left, .height = box.bottom - box.top};
 }
@@ -46,7 +46,7 @@ MarkerLayer::Picture& MarkerLayer::Measured(plot::LabelId label)
     return picture;
 }
 
-void MarkerLayer::FindVisible(plot::Extent picture, std::span<const Marker> markers)
+void MarkerLayer::FindVisible(plot::SurfaceSize picture, std::span<const Marker> markers)
 {
     mask_.Reset(picture);
     visible_.clear();
@@ -86,7 +86,7 @@ void MarkerLayer::PaintMissing(std::span<const Marker> markers)
             continue;
         }
         const plot::PixelBox plate = painter_->Plate({}, picture.textWidth);
-        const plot::Extent size = Size(plate);
+        const plot::SurfaceSize size = Size(plate);
         if (size.width > sheet.width() || size.height > sheet.height()) {
             if (painter.isActive()) {
                 painter.end();

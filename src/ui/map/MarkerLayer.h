@@ -58,7 +58,7 @@ private:
 
     void Prepare(const MarkerPainter& painter);
     Picture& Measured(plot::LabelId label);
-    void FindVisible(plot::Extent picture, std::span<const Marker> markers);
+    void FindVisible(plot::SurfaceSize picture, std::span<const Marker> markers);
     void PaintMissing(std::span<const Marker> markers);
     // Copies the part of a marker's picture that no later marker covers.
     void Copy(const Target& target, const Marker& marker, const plot::PixelBox& part) const;

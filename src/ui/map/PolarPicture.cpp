@@ -37,10 +37,10 @@ void DrawLabel(QPainter& painter, plot::SurfacePoint top, const std::string& lab
 
 }  // namespace
 
-void DrawPolarScale(QImage& picture, plot::Extent surface, int zoomLevel, qreal scale,
+void DrawPolarScale(QImage& picture, plot::SurfaceSize surface, int zoomLevel, qreal scale,
                     const MarkerPainter& marker, const base::NumberFormat& format)
 {
-    const plot::PolarScale polar = DrawPolarScale(surface, zoomLevel, format);
+    const plot::PolarScale polar = plot::MakePolarScale(surface, zoomLevel, format);
     picture.fill(kPolarGround);
     {
         LinePainter lines(picture, surface, scale);

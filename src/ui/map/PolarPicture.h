@@ -14,7 +14,7 @@ inline constexpr QColor kPolarGround{0xFF, 0xFF, 0xFF};
 
 // Clears the picture and draws radial lines, rings and their labels with `scale` pixels per surface
 // unit. `marker` lends its font and colours to the labels.
-void DrawPolarScale(QImage& picture, plot::Extent surface, int zoomLevel, qreal scale,
+void DrawPolarScale(QImage& picture, plot::SurfaceSize surface, int zoomLevel, qreal scale,
                     const MarkerPainter& marker, const base::NumberFormat& format);
 
 }  // namespace ui

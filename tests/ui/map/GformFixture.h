@@ -21,7 +21,7 @@
 #include "ui/ScriptedDialogs.h"
 #include "ui/map/FakeMainWindow.h"
 #include "ui/map/Gform.h"
-#include "ui/map/MapPicture.h"
+#include "ui/map/MapSurface.h"
 
 namespace ui {
 

@@ -9,7 +9,7 @@
 
 #include "base/Rounding.h"
 #include "geo/Distance.h"
-#include "plot/MapScale.h"
+#include "plot/ZoomLevels.h"
 #include "ui/map/FakeMainWindow.h"
 #include "ui/map/LinePainter.h"
 #include "ui/map/PolarPicture.h"
@@ -293,7 +293,7 @@ TEST_F(MapPainterTest, RingsAndRadialsStandAtTheirPlaces)
 {
     struct Case {
         std::int16_t zoomLevel;
-        plot::Extent surface;
+        plot::SurfaceSize surface;
     };
     for (const Case& c : {Case{1, {800, 600}}, Case{14, {800, 600}}, Case{33, {800, 600}},
                           Case{1, {420, 280}}, Case{14, {420, 280}}, Case{33, {420, 280}}}) {
@@ -308,7 +308,7 @@ TEST_F(MapPainterTest, RingsAndRadialsStandAtTheirPlaces)
         EXPECT_EQ(frame.pixelColor(cx, c.surface.height - 3), kLineColour);
         EXPECT_EQ(frame.pixelColor(3, cy), kLineColour);
         EXPECT_EQ(frame.pixelColor(cx + 4, c.surface.height - 9), kPolarGround);
-        const plot::MapScale scale = plot::ComputeScale(c.zoomLevel);
+        const plot::ZoomScale scale = plot::ComputeScale(c.zoomLevel);
         for (int ring = 1; ring <= scale.RingCount(); ++ring) {
             const int radius = static_cast<int>(base::RoundHalfEven(
                 static_cast<double>(ring) * scale.ringSpacing * cy / scale.viewRange));

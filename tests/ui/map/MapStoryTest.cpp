@@ -11,7 +11,7 @@
 #include "stations/WorkingFile.h"
 #include "ui/main/MainFormFixture.h"
 #include "ui/map/Gform.h"
-#include "ui/map/MapPicture.h"
+#include "ui/map/MapSurface.h"
 #include "ui/map/MarkerPainter.h"
 
 namespace ui {

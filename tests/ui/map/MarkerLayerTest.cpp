@@ -20,7 +20,7 @@ struct LabelledPoint {
     std::string label;
 };
 
-QImage NewPicture(plot::Extent surface, qreal scale)
+QImage NewPicture(plot::SurfaceSize surface, qreal scale)
 {
     QImage picture(qRound(surface.width * scale), qRound(surface.height * scale),
                    QImage::Format_RGB32);
@@ -35,7 +35,8 @@ const MarkerPainter& PainterAt(qreal scale)
 }
 
 // One marker after the other, nothing left out, nothing kept.
-QImage PaintedPlainly(const std::vector<LabelledPoint>& points, plot::Extent surface, qreal scale)
+QImage PaintedPlainly(const std::vector<LabelledPoint>& points, plot::SurfaceSize surface,
+                      qreal scale)
 {
     QImage picture = NewPicture(surface, scale);
     const MarkerPainter& marker = PainterAt(scale);
@@ -47,7 +48,7 @@ QImage PaintedPlainly(const std::vector<LabelledPoint>& points, plot::Extent sur
 }
 
 QImage PaintedAtOnce(MarkerLayer& layer, const std::vector<LabelledPoint>& points,
-                     plot::Extent surface, qreal scale)
+                     plot::SurfaceSize surface, qreal scale)
 {
     QImage picture = NewPicture(surface, scale);
     std::vector<Marker> markers;
@@ -61,7 +62,7 @@ QImage PaintedAtOnce(MarkerLayer& layer, const std::vector<LabelledPoint>& point
 
 class Points {
 public:
-    std::vector<LabelledPoint> Next(int count, plot::Extent surface)
+    std::vector<LabelledPoint> Next(int count, plot::SurfaceSize surface)
     {
         std::uniform_int_distribution<int> x(-60, surface.width + 20);
         std::uniform_int_distribution<int> y(-20, surface.height + 20);
@@ -102,7 +103,7 @@ TEST(MarkerLayer, GivesThePixelsOfPlainPainting)
         MarkerLayer layer;  // kept from frame to frame, as in the window
         for (const int count : {0, 1, 40, 400, 4000}) {
             SCOPED_TRACE(testing::Message() << count << " markers at scale " << scale);
-            const plot::Extent surface{301, 203};
+            const plot::SurfaceSize surface{301, 203};
             const std::vector<LabelledPoint> scene = points.Next(count, surface);
             const QImage plain = PaintedPlainly(scene, surface, scale);
             EXPECT_EQ(PaintedAtOnce(layer, scene, surface, scale), plain);

@@ -1,4 +1,4 @@
-#include "plot/MapGrid.h"
+#include "plot/GridNodes.h"
 
 #include <algorithm>
 #include <cmath>

@@ -9,7 +9,7 @@ namespace plot {
 inline constexpr std::int16_t kNearestZoom = 1;
 inline constexpr std::int16_t kFarthestZoom = 33;
 
-struct MapScale {
+struct ZoomScale {
     int viewRange;    // metres from the centre to the upper and lower edges of the surface
     int ringSpacing;  // metres between two range rings
 
@@ -21,7 +21,7 @@ struct MapScale {
 };
 
 // Scale of a zoom level. A level that does not exist has the scale of level 14.
-MapScale ComputeScale(int zoomLevel);
+ZoomScale ComputeScale(int zoomLevel);
 
 // One level nearer or farther; the first and the last level stay.
 std::int16_t ZoomedIn(std::int16_t zoomLevel);

@@ -1,4 +1,4 @@
-#include "ui/map/MapPicture.h"
+#include "ui/map/MapSurface.h"
 
 #include <utility>
 
@@ -19,20 +19,20 @@ plot::SurfacePoint ToSurface(QPoint point)
 
 }  // namespace
 
-MapPicture::MapPicture(Draw draw, Hint hint, QWidget* parent)
+MapSurface::MapSurface(Draw draw, Hint hint, QWidget* parent)
     : QWidget(parent), draw_(std::move(draw)), hint_(std::move(hint))
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
 }
 
-void MapPicture::Redraw()
+void MapSurface::Redraw()
 {
     stale_ = true;
     update();
 }
 
-void MapPicture::DrawIfStale()
+void MapSurface::DrawIfStale()
 {
     const qreal scale = devicePixelRatioF();
     const QSize size = (QSizeF(width(), height()) * scale).toSize();
@@ -48,13 +48,13 @@ void MapPicture::DrawIfStale()
     stale_ = false;
 }
 
-void MapPicture::paintEvent(QPaintEvent* /*event*/)
+void MapSurface::paintEvent(QPaintEvent* /*event*/)
 {
     DrawIfStale();
     QPainter(this).drawImage(0, 0, frame_);
 }
 
-void MapPicture::changeEvent(QEvent* event)
+void MapSurface::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::PaletteChange) {
@@ -62,13 +62,13 @@ void MapPicture::changeEvent(QEvent* event)
     }
 }
 
-void MapPicture::mousePressEvent(QMouseEvent* event)
+void MapSurface::mousePressEvent(QMouseEvent* event)
 {
     leftPressed_ = event->button() == Qt::LeftButton;
     emit Pressed(ToSurface(event->position().toPoint()));
 }
 
-void MapPicture::mouseReleaseEvent(QMouseEvent* event)
+void MapSurface::mouseReleaseEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::LeftButton && std::exchange(leftPressed_, false)
         && rect().contains(event->position().toPoint())) {
@@ -76,7 +76,7 @@ void MapPicture::mouseReleaseEvent(QMouseEvent* event)
     }
 }
 
-void MapPicture::wheelEvent(QWheelEvent* event)
+void MapSurface::wheelEvent(QWheelEvent* event)
 {
     const QPoint turned = event->angleDelta();
     const bool sideways = event->modifiers().testFlag(Qt::ShiftModifier);
@@ -84,7 +84,7 @@ void MapPicture::wheelEvent(QWheelEvent* event)
     event->accept();
 }
 
-bool MapPicture::event(QEvent* event)
+bool MapSurface::event(QEvent* event)
 {
     if (event->type() != QEvent::ToolTip) {
         return QWidget::event(event);

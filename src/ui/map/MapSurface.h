@@ -13,7 +13,7 @@ namespace ui {
 
 // Keeps the frame drawn last and shows it until Redraw asks for a new one, so that covering and
 // uncovering the window draws nothing. Positions are in surface units.
-class MapPicture : public QWidget {
+class MapSurface : public QWidget {
     Q_OBJECT
 
 public:
@@ -21,7 +21,7 @@ public:
     // what stands at a point, or nothing.
     using Draw = std::function<void(QImage& frame, qreal scale)>;
     using Hint = std::function<QString(plot::SurfacePoint point)>;
-    MapPicture(Draw draw, Hint hint, QWidget* parent);
+    MapSurface(Draw draw, Hint hint, QWidget* parent);
 
     // The next paint event draws everything anew; several calls until then draw once.
     void Redraw();

@@ -1,4 +1,4 @@
-#include "plot/MapScale.h"
+#include "plot/ZoomLevels.h"
 
 #include <algorithm>
 #include <array>
@@ -9,7 +9,7 @@ namespace plot {
 namespace {
 
 // The pairings are irregular on purpose: level 6 has six rings, levels 7 to 9 share one spacing.
-constexpr std::array<MapScale, kFarthestZoom> kLevels = {{
+constexpr std::array<ZoomScale, kFarthestZoom> kLevels = {{
     {10, 1},
     {20, 2},
     {50, 5},
@@ -49,7 +49,7 @@ constexpr int kStartLevel = 14;
 
 }  // namespace
 
-MapScale ComputeScale(int zoomLevel)
+ZoomScale ComputeScale(int zoomLevel)
 {
     const bool exists = zoomLevel >= kNearestZoom && zoomLevel <= kFarthestZoom;
     return kLevels[static_cast<std::size_t>((exists ? zoomLevel : kStartLevel) - 1)];

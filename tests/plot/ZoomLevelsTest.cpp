@@ -1,4 +1,4 @@
-#include "plot/MapScale.h"
+#include "plot/ZoomLevels.h"
 
 #include <gtest/gtest.h>
 
