@@ -9,7 +9,7 @@ namespace plot {
 
 namespace {
 
-bool Meets(const GridPiece& piece, map::Pixel origin, map::ImageSize clip)
+bool Meets(const Line& piece, map::Pixel origin, map::ImageSize clip)
 {
     return std::isfinite(piece.from.x + piece.from.y + piece.to.x + piece.to.y)
            && std::min(piece.from.x, piece.to.x) <= origin.x + clip.width
@@ -39,12 +39,11 @@ std::optional<GridNodes> MakeGrid(const map::ReferenceTable& table, map::ImageSi
     return grid;
 }
 
-std::vector<GridPiece> VisiblePieces(const GridNodes& grid, map::Pixel clipOrigin,
-                                     map::ImageSize clip)
+std::vector<Line> VisiblePieces(const GridNodes& grid, map::Pixel clipOrigin, map::ImageSize clip)
 {
-    std::vector<GridPiece> pieces;
+    std::vector<Line> pieces;
     const auto add = [&](const map::Pixel& from, const map::Pixel& to) {
-        const GridPiece piece{.from = from, .to = to};
+        const Line piece{.from = from, .to = to};
         if (Meets(piece, clipOrigin, clip)) {
             pieces.push_back(piece);
         }

@@ -10,6 +10,7 @@
 #include "map/MapGrid.h"
 #include "map/Pixel.h"
 #include "map/ReferenceTable.h"
+#include "plot/LineClip.h"
 
 namespace plot {
 
@@ -30,15 +31,8 @@ struct GridNodes {
 std::optional<GridNodes> MakeGrid(const map::ReferenceTable& table, map::ImageSize image,
                                   map::Refinement refinement);
 
-// A piece of a parallel or meridian in image pixels.
-struct GridPiece {
-    map::Pixel from;
-    map::Pixel to;
-};
-
-// The pieces between neighbouring crossings of which anything may be seen in the clip: those whose
-// box meets it.
-std::vector<GridPiece> VisiblePieces(const GridNodes& grid, map::Pixel clipOrigin,
-                                     map::ImageSize clip);
+// The pieces of parallels and meridians between neighbouring crossings, in image pixels, of which
+// anything may be seen in the clip: those whose box meets it.
+std::vector<Line> VisiblePieces(const GridNodes& grid, map::Pixel clipOrigin, map::ImageSize clip);
 
 }  // namespace plot

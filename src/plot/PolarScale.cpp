@@ -16,19 +16,22 @@ int Whole(double value)
     return base::Saturate<int>(base::RoundHalfEven(value));
 }
 
-std::vector<Segment> Radials(SurfaceSize surface)
+std::vector<Line> Radials(SurfaceSize surface)
 {
-    const double cx = surface.width / 2.0;
-    const double cy = surface.height / 2.0;
-    std::vector<Segment> lines;
+    const double width = surface.width;
+    const double height = surface.height;
+    const double cx = width / 2.0;
+    const double cy = height / 2.0;
+    std::vector<Line> lines;
     for (int angle = 0; angle <= 80; angle += 10) {
         const double dx = cy * std::tan(angle * geo::kRadiansPerDegree);
-        const int left = Whole(cx - dx);
-        const int right = Whole(cx + dx);
-        lines.push_back({.from = {left, surface.height}, .to = {right, 0}});
-        lines.push_back({.from = {right, surface.height}, .to = {left, 0}});
+        const double left = base::RoundHalfEven(cx - dx);
+        const double right = base::RoundHalfEven(cx + dx);
+        lines.push_back({.from = {left, height}, .to = {right, 0.0}});
+        lines.push_back({.from = {right, height}, .to = {left, 0.0}});
     }
-    lines.push_back({.from = {0, Whole(cy)}, .to = {surface.width, Whole(cy)}});
+    const double middle = base::RoundHalfEven(cy);
+    lines.push_back({.from = {0.0, middle}, .to = {width, middle}});
     return lines;
 }
 

@@ -6,18 +6,12 @@
 #include <vector>
 
 #include "base/NumberText.h"
+#include "plot/LineClip.h"
 #include "plot/PlotPosition.h"
 #include "plot/ViewLayout.h"
 #include "plot/ZoomLevels.h"
 
 namespace plot {
-
-struct Segment {
-    SurfacePoint from;
-    SurfacePoint to;
-
-    bool operator==(const Segment&) const = default;
-};
 
 // A ring around the centre. Its label stands just under its topmost point.
 struct RangeRing {
@@ -27,7 +21,8 @@ struct RangeRing {
 
 struct PolarScale {
     SurfacePoint centre;
-    std::vector<Segment> radials;  // every 10 degrees, from the lower to the upper edge
+    std::vector<Line>
+        radials;  // between whole units, every 10 degrees, from the lower to the upper edge
     std::vector<RangeRing> rings;  // from the innermost
 };
 

@@ -2,15 +2,12 @@
 
 #pragma once
 
+#include "map/Georeference.h"
+
 namespace plot {
 
-// Whole surface units.
-struct SurfaceSize {
-    int width = 0;
-    int height = 0;
-
-    bool operator==(const SurfaceSize&) const = default;
-};
+// Whole surface units; one of them shows one pixel of the image.
+using SurfaceSize = map::ImageSize;
 
 inline constexpr int kRightStrip = 80;    // beside the surface: buttons, list and vertical bar
 inline constexpr int kLowerStrip = 20;    // below the surface

@@ -66,14 +66,14 @@ TEST(MakePolarScale, DrawsARadialEveryTenDegreesThroughTheCentre)
 {
     const PolarScale scale = MakePolarScale({800, 600}, 14, base::NumberFormat());
     ASSERT_EQ(scale.radials.size(), 19U);
-    EXPECT_EQ(scale.radials[0], (Segment{{400, 600}, {400, 0}}));  // both lines at 0 degrees
+    EXPECT_EQ(scale.radials[0], (Line{{400, 600}, {400, 0}}));  // both lines at 0 degrees
     EXPECT_EQ(scale.radials[1], scale.radials[0]);
     // 300 tan 10 = 52.898, 300 tan 80 = 1701.38: beyond the sides of the surface
-    EXPECT_EQ(scale.radials[2], (Segment{{347, 600}, {453, 0}}));
-    EXPECT_EQ(scale.radials[3], (Segment{{453, 600}, {347, 0}}));
-    EXPECT_EQ(scale.radials[16], (Segment{{-1301, 600}, {2101, 0}}));
-    EXPECT_EQ(scale.radials[17], (Segment{{2101, 600}, {-1301, 0}}));
-    EXPECT_EQ(scale.radials[18], (Segment{{0, 300}, {800, 300}}));
+    EXPECT_EQ(scale.radials[2], (Line{{347, 600}, {453, 0}}));
+    EXPECT_EQ(scale.radials[3], (Line{{453, 600}, {347, 0}}));
+    EXPECT_EQ(scale.radials[16], (Line{{-1301, 600}, {2101, 0}}));
+    EXPECT_EQ(scale.radials[17], (Line{{2101, 600}, {-1301, 0}}));
+    EXPECT_EQ(scale.radials[18], (Line{{0, 300}, {800, 300}}));
 }
 
 }  // namespace

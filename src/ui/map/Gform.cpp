@@ -170,9 +170,7 @@ void Gform::Layout()
                                      .height = centralWidget()->height()};
     const map::ImageSize image = image_.Size();
     const plot::ViewLayout layout =
-        state_.map.mapImage
-            ? plot::ImageLayout(inner, {.width = image.width, .height = image.height})
-            : plot::PolarLayout(inner);
+        state_.map.mapImage ? plot::ImageLayout(inner, image) : plot::PolarLayout(inner);
     const plot::SurfaceSize& surface = view_.surface = layout.surface;
     Picture1->setGeometry(0, 0, surface.width, surface.height);
 

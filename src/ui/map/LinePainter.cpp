@@ -24,12 +24,6 @@ void LinePainter::Draw(const plot::Line& line)
     }
 }
 
-void LinePainter::Draw(plot::SurfacePoint from, plot::SurfacePoint to)
-{
-    Draw({.from = {.x = static_cast<double>(from.x), .y = static_cast<double>(from.y)},
-          .to = {.x = static_cast<double>(to.x), .y = static_cast<double>(to.y)}});
-}
-
 void LinePainter::DrawCircle(plot::SurfacePoint centre, int radius)
 {
     painter_.drawEllipse(QPointF(centre.x, centre.y), radius, radius);

@@ -21,7 +21,6 @@ public:
     LinePainter(QImage& picture, plot::SurfaceSize surface, qreal scale);
 
     void Draw(const plot::Line& line);
-    void Draw(plot::SurfacePoint from, plot::SurfacePoint to);
     void DrawCircle(plot::SurfacePoint centre, int radius);
 
 private:

@@ -232,8 +232,7 @@ void MapPainter::DrawLines(QImage& frame, const plot::MapView& view) const
     const map::Pixel origin = {.x = static_cast<double>(view.clipOrigin.x),
                                .y = static_cast<double>(view.clipOrigin.y)};
     if (grid) {
-        const map::ImageSize clip = {.width = view.surface.width, .height = view.surface.height};
-        for (const plot::GridPiece& piece : plot::VisiblePieces(*view.grid, origin, clip)) {
+        for (const plot::Line& piece : plot::VisiblePieces(*view.grid, origin, view.surface)) {
             lines.Draw({.from = {.x = piece.from.x - origin.x, .y = piece.from.y - origin.y},
                         .to = {.x = piece.to.x - origin.x, .y = piece.to.y - origin.y}});
         }

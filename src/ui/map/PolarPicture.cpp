@@ -44,8 +44,8 @@ void DrawPolarScale(QImage& picture, plot::SurfaceSize surface, int zoomLevel, q
     picture.fill(kPolarGround);
     {
         LinePainter lines(picture, surface, scale);
-        for (const plot::Segment& radial : polar.radials) {
-            lines.Draw(radial.from, radial.to);
+        for (const plot::Line& radial : polar.radials) {
+            lines.Draw(radial);
         }
         for (const plot::RangeRing& ring : polar.rings) {
             lines.DrawCircle(polar.centre, ring.radius);
