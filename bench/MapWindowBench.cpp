@@ -300,7 +300,7 @@ void MeasureEvents()
         });
     }
     Trigger(*form, "MnuPicOff");
-    world.state.configuration.displaySize = 19;
+    world.state.configuration.zoomLevel = 19;
     Slowest("zoom step", *form, [&] {
         QTest::mouseClick(++step % 2 == 0 ? form->Command1 : form->Command2, Qt::LeftButton);
     });
@@ -360,20 +360,21 @@ int main(int argc, char** argv)
                 [&] { return bench::Seconds([&] { limit.Paint(); }); }});
 
     // Two label fields whose texts are all different take turns.
-    std::int16_t choice = 0;
+    auto choice = stations::LabelChoice::Callsign;
     std::unique_ptr<ui::MapPainter> fresh;
-    bench::Run({"first frame after the labels changed / plain painting", 0.33,
-                [&] {
-                    fresh = std::make_unique<ui::MapPainter>(world.state, world.image,
-                                                             world.mainWindow);
-                    world.state.configuration.labelChoice = choice;
-                    fresh->Redraw(frame, world.view, 1.0, kPlate);
-                    choice = choice == 0 ? 1 : 0;
-                    world.state.configuration.labelChoice = choice;
-                    return bench::Seconds([&] { fresh->Redraw(frame, world.view, 1.0, kPlate); });
-                },
-                plainFrameSeconds, 11});
-    world.state.configuration.labelChoice = 0;
+    bench::Run(
+        {"first frame after the labels changed / plain painting", 0.33,
+         [&] {
+             fresh = std::make_unique<ui::MapPainter>(world.state, world.image, world.mainWindow);
+             world.state.configuration.labelChoice = choice;
+             fresh->Redraw(frame, world.view, 1.0, kPlate);
+             choice = choice == stations::LabelChoice::Callsign ? stations::LabelChoice::Name
+                                                                : stations::LabelChoice::Callsign;
+             world.state.configuration.labelChoice = choice;
+             return bench::Seconds([&] { fresh->Redraw(frame, world.view, 1.0, kPlate); });
+         },
+         plainFrameSeconds, 11});
+    world.state.configuration.labelChoice = stations::LabelChoice::Callsign;
     redraw();
 
     bench::Run({"first frame after the reference table changed / plain", 0.33,
@@ -388,7 +389,7 @@ int main(int argc, char** argv)
                 plainFrameSeconds, 11});
 
     world.state.map.mapImage = false;
-    world.state.configuration.displaySize = 19;
+    world.state.configuration.zoomLevel = 19;
     bench::Run({"polar: first frame after Station 1 changed / plain", 0.33,
                 [&] {
                     world.state.shown.position[0].latitude +=

@@ -13,7 +13,6 @@
 
 #include "app/MapState.h"
 #include "base/NumberText.h"
-#include "geo/AngleText.h"
 #include "geo/GeoPosition.h"
 #include "stations/Configuration.h"
 #include "stations/ListLine.h"
@@ -40,10 +39,9 @@ struct StationsShown {
     std::array<stations::StationRecord, 2> record;  // as of the last S1S2_Update
 };
 
-// The coordinate fields: which form is being edited, and how degree-minutes are written.
+// The coordinate fields.
 struct EntryState {
     EntryGroup activeGroup = EntryGroup::None;
-    geo::DegreeMinuteMode degreeMinuteMode = geo::DegreeMinuteMode::Hundredths;
 };
 
 // What a click on a line of the station list does.

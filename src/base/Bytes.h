@@ -22,7 +22,7 @@ using ByteVector = std::vector<unsigned char>;
 using ByteView = std::span<const unsigned char>;
 
 template <typename T>
-concept Scalar = std::is_arithmetic_v<T> && !std::is_same_v<T, bool>;
+concept Scalar = (std::is_arithmetic_v<T> && !std::is_same_v<T, bool>) || std::is_enum_v<T>;
 
 // Appends fields to a growing buffer.
 class ByteWriter {

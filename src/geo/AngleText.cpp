@@ -16,13 +16,13 @@ constexpr std::size_t kListingDegreesWidth = 4;
 // How many of the last unit make a minute.
 double UnitsPerMinute(DegreeMinuteMode mode)
 {
-    return mode == DegreeMinuteMode::Hundredths ? 100.0 : 60.0;
+    return mode != DegreeMinuteMode::Seconds ? 100.0 : 60.0;
 }
 
 // The unsigned angle, half of the last unit larger: cut off behind that unit it is rounded.
 double RaisedMagnitude(double degrees, DegreeMinuteMode mode)
 {
-    const double halfUnit = mode == DegreeMinuteMode::Hundredths ? 1.0 / 12000.0 : 1.0 / 7200.0;
+    const double halfUnit = mode != DegreeMinuteMode::Seconds ? 1.0 / 12000.0 : 1.0 / 7200.0;
     return std::fabs(degrees) + halfUnit;
 }
 
@@ -115,7 +115,7 @@ std::string ListingAngle(double degrees, DegreeMinuteMode mode)
     }
     text.insert(0, kListingDegreesWidth - std::min(kListingDegreesWidth, text.size()), ' ');
     text += '.';
-    if (mode == DegreeMinuteMode::Hundredths) {
+    if (mode != DegreeMinuteMode::Seconds) {
         return text + format(std::floor(rest * 6000.0) / 100.0, "00.00");
     }
     const double minutes = std::floor(rest * 60.0);

@@ -15,10 +15,10 @@
 
 namespace geo {
 
-// What the third component of an angle counts.
-enum class DegreeMinuteMode {
-    Seconds,     // G-M-S
-    Hundredths,  // G-M-H, hundredths of a minute
+// What the third component of an angle counts. Any other value stands for Hundredths.
+enum class DegreeMinuteMode : std::uint8_t {
+    Seconds = 0,     // G-M-S
+    Hundredths = 1,  // G-M-H, hundredths of a minute
 };
 
 // One unsigned angle and its hemisphere. A component beyond 16 bits stands at the limit.

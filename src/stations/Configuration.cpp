@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::int32_t kMagic = 150758;
 constexpr std::size_t kConfigurationSize = 2172;
-constexpr std::int16_t kLargestDisplaySize = 33;
+constexpr std::int16_t kFarthestZoom = 33;
 
 // The bytes of a record; it has no padding.
 base::ByteView BytesOf(const StationRecord& record)
@@ -47,7 +47,7 @@ base::ByteVector PackConfiguration(const Configuration& configuration)
     writer.Put(configuration.degreeFormat);
     writer.Put(configuration.datum);
     writer.PutBytes(configuration.reserved);
-    writer.Put(configuration.displaySize);
+    writer.Put(configuration.zoomLevel);
     writer.Put(configuration.listingMode);
     writer.PutBoolean(configuration.autoRedraw);
     writer.PutBoolean(configuration.compassDirection);
@@ -58,8 +58,8 @@ base::ByteVector PackConfiguration(const Configuration& configuration)
     writer.PutBoolean(configuration.showStation1);
     writer.PutBoolean(configuration.showStation2);
     writer.PutText(configuration.workingFile, kFileNameLength);
-    writer.PutText(configuration.textSetting2, kFileNameLength);
-    writer.PutText(configuration.textSetting3, kFileNameLength);
+    writer.PutText(configuration.lastImage, kFileNameLength);
+    writer.PutText(configuration.lastMapFolder, kFileNameLength);
     writer.Put(kMagic);
     writer.PutBytes(BytesOf(configuration.station1));
     writer.PutBytes(BytesOf(configuration.station2));
@@ -81,7 +81,7 @@ ConfigurationContents UnpackConfiguration(base::ByteView bytes)
     reader.Get(configuration.degreeFormat);
     reader.Get(configuration.datum);
     reader.GetBytes(configuration.reserved);
-    reader.Get(configuration.displaySize);
+    reader.Get(configuration.zoomLevel);
     reader.Get(configuration.listingMode);
     reader.GetBoolean(configuration.autoRedraw);
     reader.GetBoolean(configuration.compassDirection);
@@ -92,8 +92,8 @@ ConfigurationContents UnpackConfiguration(base::ByteView bytes)
     reader.GetBoolean(configuration.showStation1);
     reader.GetBoolean(configuration.showStation2);
     GetFileName(reader, configuration.workingFile);
-    GetFileName(reader, configuration.textSetting2);
-    GetFileName(reader, configuration.textSetting3);
+    GetFileName(reader, configuration.lastImage);
+    GetFileName(reader, configuration.lastMapFolder);
     reader.Get(magic);
     GetRecord(reader, configuration.station1);
     GetRecord(reader, configuration.station2);
@@ -104,8 +104,8 @@ ConfigurationContents UnpackConfiguration(base::ByteView bytes)
         contents.status = ConfigurationStatus::Foreign;
         return contents;
     }
-    if (configuration.displaySize < 1 || configuration.displaySize > kLargestDisplaySize) {
-        configuration.displaySize = Configuration().displaySize;
+    if (configuration.zoomLevel < 1 || configuration.zoomLevel > kFarthestZoom) {
+        configuration.zoomLevel = Configuration().zoomLevel;
     }
     contents.status = ConfigurationStatus::Read;
     contents.configuration = configuration;

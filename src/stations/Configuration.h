@@ -7,7 +7,7 @@
 //       10      1  degree format                         1
 //       11      1  Gauss-Krüger datum                    1
 //       12     20  reserved                              zeros
-//       32      2  display size, signed                  14
+//       32      2  zoom level, signed                    14
 //       34      2  listing mode, signed                  0
 //       36      2  automatic redraw, -1 true, 0 false    0
 //       38      2  compass direction                     0
@@ -18,8 +18,8 @@
 //       48      2  show Station 1                        -1
 //       50      2  show Station 2                        -1
 //       52    512  working file name, blanks behind      WORK.QTH
-//      564    512  text setting 2                        blanks
-//     1076    512  text setting 3                        blanks
+//      564    512  last image                            blanks
+//     1076    512  last map folder                       blanks
 //     1588      4  150758, the mark of a configuration
 //     1592    290  Station 1 record                      zeros
 //     1882    290  Station 2 record                      zeros
@@ -34,6 +34,8 @@
 #include <system_error>
 
 #include "base/Bytes.h"
+#include "geo/AngleText.h"
+#include "stations/Listing.h"
 #include "stations/StationRecord.h"
 #include "stations/WorkingFile.h"
 
@@ -43,18 +45,28 @@ inline constexpr const char* kConfigurationName = "KOMP_LOC.CFG";
 
 inline constexpr std::size_t kFileNameLength = 512;
 
+// The text that labels the stations on the map; any other value stands for Callsign.
+enum class LabelChoice : std::int16_t {
+    Callsign = 0,
+    Name = 1,
+    Place = 2,
+    Frequency = 3,
+    Remark = 4,
+};
+
+// A value that is none of an enumeration's is kept until the user chooses another.
 struct Configuration {
     std::int16_t format = 1;
     std::int32_t station1Index = -1;  // -1: the built-in station, 0: `station1`
     std::int32_t station2Index = -1;  // likewise
-    std::uint8_t degreeFormat = 1;    // 0: G-M-S, seconds; else G-M-H, hundredths of a minute
-    std::uint8_t datum = 1;           // 0: WGS84 (nur Süddeutschl.), 1: ED50
+    geo::DegreeMinuteMode degreeFormat = geo::DegreeMinuteMode::Hundredths;
+    std::uint8_t datum = 1;  // 0: WGS84 (nur Süddeutschl.), 1: ED50
     std::array<unsigned char, 20> reserved = {};
-    std::int16_t displaySize = 14;  // zoom level of the map, 1..33
-    std::int16_t listingMode = 0;   // 0 G-M-S / G-M-H, 1 Grad, 2 UTM, 3 Locator
+    std::int16_t zoomLevel = 14;  // of the map, 1..33
+    ListingMode listingMode = ListingMode::DegreeMinutes;
     bool autoRedraw = false;
     bool compassDirection = false;
-    std::int16_t labelChoice = 0;  // field that labels the stations on the map, 0..4
+    LabelChoice labelChoice = LabelChoice::Callsign;
     bool showReferencePoints = true;
     bool optimisedDisplay = false;
     bool optimisedOutput = true;
@@ -62,8 +74,8 @@ struct Configuration {
     bool showStation2 = true;
     // The bytes of the file system, without blanks and zeros at the end, at most 512.
     std::string workingFile = "WORK.QTH";
-    std::string textSetting2;
-    std::string textSetting3;
+    std::string lastImage;      // of the map
+    std::string lastMapFolder;  // of the dialog that loads one
     StationRecord station1;
     StationRecord station2;
 
@@ -90,7 +102,7 @@ struct ConfigurationContents {
 };
 
 // Fields behind the end of `bytes` have their defaults; bytes behind the record are not read. A
-// display size that the map does not have is 14.
+// zoom level that the map does not have is 14.
 ConfigurationContents UnpackConfiguration(base::ByteView bytes);
 
 ConfigurationContents ReadConfiguration(const std::string& name);

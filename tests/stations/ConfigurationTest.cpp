@@ -30,7 +30,7 @@ std::string DefaultFile()
            + std::string(4, '\xFF') + std::string(4, '\xFF')  // station indexes
            + '\x01' + '\x01'                                  // degree format, datum
            + std::string(20, '\0')                            // reserved
-           + std::string("\x0E\x00", 2)                       // display size
+           + std::string("\x0E\x00", 2)                       // zoom level
            + std::string(2, '\0')                             // listing mode
            + std::string(2, '\0')                             // automatic redraw
            + std::string(2, '\0')                             // compass direction
@@ -59,22 +59,22 @@ Configuration AllDifferent()
     configuration.format = 2;
     configuration.station1Index = 0;
     configuration.station2Index = 7;
-    configuration.degreeFormat = 0;
+    configuration.degreeFormat = geo::DegreeMinuteMode::Seconds;
     configuration.datum = 200;
     configuration.reserved.fill(0xAB);
-    configuration.displaySize = 33;
-    configuration.listingMode = 3;
+    configuration.zoomLevel = 33;
+    configuration.listingMode = ListingMode::Locator;
     configuration.autoRedraw = true;
     configuration.compassDirection = true;
-    configuration.labelChoice = 4;
+    configuration.labelChoice = LabelChoice::Remark;
     configuration.showReferencePoints = false;
     configuration.optimisedDisplay = true;
     configuration.optimisedOutput = false;
     configuration.showStation1 = false;
     configuration.showStation2 = false;
     configuration.workingFile = "/tmp/my \xC3\xBC stations.QTH";
-    configuration.textSetting2 = std::string(512, 'x');
-    configuration.textSetting3 = " leading";
+    configuration.lastImage = std::string(512, 'x');
+    configuration.lastMapFolder = " leading";
     configuration.station1 = MakeRecord({"A"}, {.latitude = 1.0, .longitude = 2.0});
     configuration.station2 = MakeRecord({"B"});
     return configuration;
@@ -167,9 +167,9 @@ TEST(UnpackConfiguration, OpensTheMapOnlyInASizeThatItHas)
 {
     for (const int size : {1, 14, 33, 0, 34, -1, 32767, -32768}) {
         Configuration configuration;
-        configuration.displaySize = static_cast<std::int16_t>(size);
+        configuration.zoomLevel = static_cast<std::int16_t>(size);
         const std::string file = TextOf(PackConfiguration(configuration));
-        EXPECT_EQ(Unpack(file).configuration.displaySize, size >= 1 && size <= 33 ? size : 14);
+        EXPECT_EQ(Unpack(file).configuration.zoomLevel, size >= 1 && size <= 33 ? size : 14);
     }
 }
 

@@ -58,7 +58,7 @@ CfgForm::CfgForm(app::AppState& state, QWidget* parent) : QDialog(parent), state
     for (std::size_t i = 0; i < Option5.size(); ++i) {
         Option5[i] = NewOption(ElementName("Option5", static_cast<int>(i)), layouts[i]);
         connect(Option5[i], &QRadioButton::clicked, this,
-                [this, i] { copy_.listingMode = static_cast<std::int16_t>(i); });
+                [this, i] { copy_.listingMode = static_cast<stations::ListingMode>(i); });
     }
     Check1 = Named(new QCheckBox(u"Autoredraw"_s), u"Check1"_s);
     Check1->setToolTip(u"Die offene Karte folgt jeder Änderung von selbst"_s);
@@ -98,12 +98,13 @@ void CfgForm::Edit()
 
 void CfgForm::ShowSettings()
 {
-    Select(Option1, copy_.degreeFormat == 0);
-    Select(Option2, copy_.degreeFormat != 0);
+    const bool seconds = copy_.degreeFormat == geo::DegreeMinuteMode::Seconds;
+    Select(Option1, seconds);
+    Select(Option2, !seconds);
     Select(Option3, copy_.datum == 0);
     Select(Option4, copy_.datum == 1);
     for (std::size_t i = 0; i < Option5.size(); ++i) {
-        Select(Option5[i], copy_.listingMode == static_cast<std::int16_t>(i));
+        Select(Option5[i], copy_.listingMode == static_cast<stations::ListingMode>(i));
     }
     Check1->setChecked(copy_.autoRedraw);
     Check2->setChecked(copy_.compassDirection);

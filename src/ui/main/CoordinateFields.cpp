@@ -138,7 +138,7 @@ void CoordinateFields::Read(StationPanel& panel, const EntryField* field, EntryG
         std::ranges::transform(
             panel.DegreeMinuteFields(), texts.begin(),
             [&format](const EntryField* f) { return format.Repair(f->text().toStdString()); });
-        position = geo::ReadDegreeMinutes(texts, state_.entry.degreeMinuteMode);
+        position = geo::ReadDegreeMinutes(texts, state_.configuration.degreeFormat);
         break;
     }
     case EntryGroup::GaussKrueger:
@@ -177,8 +177,8 @@ void CoordinateFields::ShowDecimal(int station)
 void CoordinateFields::GRDMINSEC(int station)
 {
     const auto index = static_cast<std::size_t>(station);
-    const geo::DegreeMinuteTexts texts = geo::FieldTexts(
-        geo::GRDMINSEC(WholePosition(state_.shown.position[index]), state_.entry.degreeMinuteMode));
+    const geo::DegreeMinuteTexts texts = geo::FieldTexts(geo::GRDMINSEC(
+        WholePosition(state_.shown.position[index]), state_.configuration.degreeFormat));
     const std::array<EntryField*, 8> fields = panel_[index]->DegreeMinuteFields();
     for (std::size_t i = 0; i < fields.size(); ++i) {
         Show(fields[i], texts[i]);
@@ -263,13 +263,10 @@ void CoordinateFields::SetPositionWithoutResult(int station, geo::GeoPosition po
 
 void CoordinateFields::Set_GMS_String()
 {
-    state_.entry.degreeMinuteMode = state_.configuration.degreeFormat != 0
-                                        ? geo::DegreeMinuteMode::Hundredths
-                                        : geo::DegreeMinuteMode::Seconds;
-    const bool hundredths = state_.entry.degreeMinuteMode == geo::DegreeMinuteMode::Hundredths;
-    headings_.Option2[hundredths ? 0 : 1]->setChecked(true);
+    const geo::DegreeMinuteMode mode = state_.configuration.degreeFormat;
+    headings_.Option2[mode == geo::DegreeMinuteMode::Seconds ? 1 : 0]->setChecked(true);
     for (StationPanel* const panel : panel_) {
-        panel->ShowUnits(state_.entry.degreeMinuteMode);
+        panel->ShowUnits(mode);
         GRDMINSEC(panel->station);
     }
 }
@@ -277,7 +274,9 @@ void CoordinateFields::Set_GMS_String()
 void CoordinateFields::Option2Clicked()
 {
     state_.entry.activeGroup = EntryGroup::None;
-    state_.configuration.degreeFormat = headings_.Option2[0]->isChecked() ? 1 : 0;
+    state_.configuration.degreeFormat = headings_.Option2[0]->isChecked()
+                                            ? geo::DegreeMinuteMode::Hundredths
+                                            : geo::DegreeMinuteMode::Seconds;
     Set_GMS_String();
 }
 

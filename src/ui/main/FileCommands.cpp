@@ -181,9 +181,8 @@ void FileCommands::WriteListing()
         return;
     }
     const std::string text =
-        stations::ListingText(state_.database.Records(),
-                              static_cast<stations::ListingMode>(state_.configuration.listingMode),
-                              state_.entry.degreeMinuteMode, state_.numberFormat);
+        stations::ListingText(state_.database.Records(), state_.configuration.listingMode,
+                              state_.configuration.degreeFormat, state_.numberFormat);
     const auto* const bytes = reinterpret_cast<const unsigned char*>(text.data());
     TellWriteError(&window_, dialogs_, base::WriteFile(name, base::ByteView(bytes, text.size())),
                    name);

@@ -215,13 +215,13 @@ void Gform::ShowClip()
 
 void Gform::ZoomIn()
 {
-    state_.configuration.displaySize = plot::ZoomedIn(state_.configuration.displaySize);
+    state_.configuration.zoomLevel = plot::ZoomedIn(state_.configuration.zoomLevel);
     Redraw();
 }
 
 void Gform::ZoomOut()
 {
-    state_.configuration.displaySize = plot::ZoomedOut(state_.configuration.displaySize);
+    state_.configuration.zoomLevel = plot::ZoomedOut(state_.configuration.zoomLevel);
     Redraw();
 }
 

@@ -90,7 +90,7 @@ private:
     void SetReferenceMode(bool on);
     void ShowReferenceMode();
     void SetClickMode(app::ClickMode mode);
-    void SetLabelChoice(std::int16_t choice);
+    void SetLabelChoice(stations::LabelChoice choice);
 
     void ZoomIn();
     void ZoomOut();

@@ -100,8 +100,9 @@ void Gform::AddDisplayMenu()
                         },
                         true};
     };
-    const auto label = [this](std::int16_t choice, const QString& caption) {
-        return MenuItem{kLabelItems[choice], caption,
+    using stations::LabelChoice;
+    const auto label = [this](LabelChoice choice, const QString& caption) {
+        return MenuItem{kLabelItems[static_cast<std::size_t>(choice)], caption,
                         [this, choice](bool) {
                             SetLabelChoice(choice);
                             Redraw();
@@ -119,11 +120,11 @@ void Gform::AddDisplayMenu()
             marks("MnuSel", u"ausgewählte Stationen"_s, &plot::MapView::showMarked),
             marks("MnuAlle", u"nicht ausgewählte Stationen"_s, &plot::MapView::showUnmarked),
             {"MnuMin17"},
-            label(0, u"Rufzeichen"_s),
-            label(1, u"Name"_s),
-            label(2, u"Ort"_s),
-            label(3, u"Frequenz"_s),
-            label(4, u"Anmerkung"_s),
+            label(LabelChoice::Callsign, u"Rufzeichen"_s),
+            label(LabelChoice::Name, u"Name"_s),
+            label(LabelChoice::Place, u"Ort"_s),
+            label(LabelChoice::Frequency, u"Frequenz"_s),
+            label(LabelChoice::Remark, u"Anmerkung"_s),
             {"MnuMin10"},
             check("MnuS1Anz", u"Station 1"_s, &Switches::showStation1),
             check("MnuS2Anz", u"Station 2"_s, &Switches::showStation2),
@@ -235,11 +236,11 @@ void Gform::SetClickMode(app::ClickMode mode)
     Redraw();
 }
 
-void Gform::SetLabelChoice(std::int16_t choice)
+void Gform::SetLabelChoice(stations::LabelChoice choice)
 {
     state_.configuration.labelChoice = choice;
-    const std::int16_t counted = CountedLabelChoice(choice);
-    for (std::int16_t i = 0; i < static_cast<std::int16_t>(std::size(kLabelItems)); ++i) {
+    const auto counted = static_cast<std::size_t>(CountedLabelChoice(choice));
+    for (std::size_t i = 0; i < std::size(kLabelItems); ++i) {
         Item(kLabelItems[i])->setChecked(i == counted);
     }
 }

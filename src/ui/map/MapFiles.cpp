@@ -84,7 +84,7 @@ bool MapFiles::Load()
     const QString file =
         dialogs_.OpenFile(window_, {.title = u"Landkarte laden"_s,
                                     .filter = PictureFilter(),
-                                    .folder = Shown(state_.configuration.textSetting3)});
+                                    .folder = Shown(state_.configuration.lastMapFolder)});
     if (file.isEmpty() || !LoadPicture(file)) {
         return false;
     }
@@ -119,10 +119,10 @@ void MapFiles::RememberName(const QString& file)
     state_.map.imageName = name;
     const std::string folder = Native(QFileInfo(file).absolutePath());
     if (stations::FitsConfiguration(name)) {
-        state_.configuration.textSetting2 = name;
+        state_.configuration.lastImage = name;
     }
     if (stations::FitsConfiguration(folder)) {
-        state_.configuration.textSetting3 = folder;
+        state_.configuration.lastMapFolder = folder;
     }
 }
 

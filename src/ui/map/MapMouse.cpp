@@ -59,7 +59,7 @@ QString MapMouse::Press(plot::SurfacePoint point, plot::SurfacePoint clipOrigin)
     // The readout has a switch of its own and a coarser tolerance than a click.
     const geo::GeoPosition position =
         Convert(map::kPointerTolerance, state_.configuration.optimisedDisplay);
-    const geo::DegreeMinuteMode mode = state_.entry.degreeMinuteMode;
+    const geo::DegreeMinuteMode mode = state_.configuration.degreeFormat;
     return QString::fromStdString(geo::ListingAngle(position.latitude, mode) + ' '
                                   + geo::ListingAngle(position.longitude, mode));
 }

@@ -25,7 +25,7 @@ constexpr std::array kLabelFields = {stations::Field::Callsign, stations::Field:
                                      stations::Field::Remark};
 
 // The field of a record that labels its marker.
-stations::Field LabelField(std::int16_t labelChoice)
+stations::Field LabelField(stations::LabelChoice labelChoice)
 {
     return kLabelFields[static_cast<std::size_t>(CountedLabelChoice(labelChoice))];
 }
@@ -38,10 +38,10 @@ void CopyPicture(const QImage& from, QImage& to)
 
 }  // namespace
 
-std::int16_t CountedLabelChoice(std::int16_t stored)
+stations::LabelChoice CountedLabelChoice(stations::LabelChoice stored)
 {
-    const bool exists = stored >= 0 && static_cast<std::size_t>(stored) < kLabelFields.size();
-    return exists ? stored : std::int16_t{0};
+    const bool exists = static_cast<std::size_t>(stored) < kLabelFields.size();
+    return exists ? stored : stations::LabelChoice::Callsign;
 }
 
 MapPainter::MapPainter(const app::AppState& state, const MapImage& image,
@@ -79,7 +79,7 @@ void MapPainter::DrawGround(QImage& frame, const plot::MapView& view, const Mark
     const ScaleKey key = {.frame = frame.size(),
                           .surface = view.surface,
                           .scale = scale_,
-                          .zoomLevel = state_.configuration.displaySize,
+                          .zoomLevel = state_.configuration.zoomLevel,
                           .plate = marker.PlateColour().rgb()};
     if (scaleKey_ != key) {
         scalePicture_ = QImage(frame.size(), frame.format());
@@ -103,7 +103,7 @@ plot::ImageModel MapPainter::CurrentModel() const
 map::Pixel MapPainter::Plot(const plot::MapView& view, geo::GeoPosition position) const
 {
     if (!state_.map.mapImage) {
-        const plot::ZoomScale scale = plot::ComputeScale(state_.configuration.displaySize);
+        const plot::ZoomScale scale = plot::ComputeScale(state_.configuration.zoomLevel);
         return plot::PolarOffset(plot::PolarFrom(state_.shown.position[0], position),
                                  plot::PolarUnitsPerKilometre(view.surface, scale.ViewRange()));
     }
@@ -179,7 +179,7 @@ void MapPainter::CollectStations(const plot::MapView& view)
         }
         return;
     }
-    const plot::ZoomScale scale = plot::ComputeScale(state_.configuration.displaySize);
+    const plot::ZoomScale scale = plot::ComputeScale(state_.configuration.zoomLevel);
     const double units = plot::PolarUnitsPerKilometre(view.surface, scale.ViewRange());
     const auto seen = plot_.Polar(records, state_.shown.position[0]);
     for (std::size_t i = 0; i < records.size(); ++i) {

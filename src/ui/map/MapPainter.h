@@ -25,8 +25,8 @@ namespace ui {
 inline constexpr QColor kMapInk{0xCC, 0xCC, 0xCC};
 inline constexpr QColor kPolarInk{0xEE, 0xEE, 0xEE};
 
-// What a stored label choice counts as: one that does not exist as 0, the callsign.
-std::int16_t CountedLabelChoice(std::int16_t stored);
+// What a stored label choice counts as: one that does not exist as the callsign.
+stations::LabelChoice CountedLabelChoice(stations::LabelChoice stored);
 
 // Whom a marker stands for.
 struct MarkerSource {

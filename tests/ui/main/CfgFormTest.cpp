@@ -92,9 +92,9 @@ TEST_F(CfgFormTest, OpensModalWithTheSettingsOfTheConfiguration)
     EXPECT_FALSE(form->Check2->isChecked());
     ClickOn(form->Command2);
 
-    state.configuration.degreeFormat = 0;
+    state.configuration.degreeFormat = geo::DegreeMinuteMode::Seconds;
     state.configuration.datum = 0;
-    state.configuration.listingMode = 3;
+    state.configuration.listingMode = stations::ListingMode::Locator;
     state.configuration.autoRedraw = true;
     state.configuration.compassDirection = true;
     Open();
@@ -110,7 +110,7 @@ TEST_F(CfgFormTest, OpensModalWithTheSettingsOfTheConfiguration)
 
 TEST_F(CfgFormTest, AnyDegreeFormatButZeroIsHundredths)
 {
-    state.configuration.degreeFormat = 200;
+    state.configuration.degreeFormat = static_cast<geo::DegreeMinuteMode>(200);
     Open();
     EXPECT_TRUE(form->Option2->isChecked());
 }
@@ -118,7 +118,7 @@ TEST_F(CfgFormTest, AnyDegreeFormatButZeroIsHundredths)
 TEST_F(CfgFormTest, SettingsThatNoButtonStandsForSelectNoneAndAreKept)
 {
     state.configuration.datum = 7;
-    state.configuration.listingMode = -2;
+    state.configuration.listingMode = static_cast<stations::ListingMode>(-2);
     Open();
     EXPECT_FALSE(form->Option3->isChecked());
     EXPECT_FALSE(form->Option4->isChecked());
@@ -127,7 +127,7 @@ TEST_F(CfgFormTest, SettingsThatNoButtonStandsForSelectNoneAndAreKept)
     }
     ClickOn(form->Command1);
     EXPECT_EQ(state.configuration.datum, 7);
-    EXPECT_EQ(state.configuration.listingMode, -2);
+    EXPECT_EQ(static_cast<int>(state.configuration.listingMode), -2);
 }
 
 TEST_F(CfgFormTest, OkTakesEverySettingOver)
@@ -141,7 +141,7 @@ TEST_F(CfgFormTest, OkTakesEverySettingOver)
     ClickOn(form->Command1);
     EXPECT_FALSE(form->isVisible());
     EXPECT_EQ(state.configuration.datum, 0);
-    EXPECT_EQ(state.configuration.listingMode, 2);
+    EXPECT_EQ(state.configuration.listingMode, stations::ListingMode::Utm);
     EXPECT_TRUE(state.configuration.autoRedraw);
     EXPECT_TRUE(state.configuration.compassDirection);
     EXPECT_TRUE(state.session.configurationChanged);
@@ -162,8 +162,7 @@ TEST_F(CfgFormTest, OkLeavesTheDegreeFormatAsItWas)
     ClickOn(form->Option1);
     EXPECT_TRUE(form->Option1->isChecked());
     ClickOn(form->Command1);
-    EXPECT_EQ(state.configuration.degreeFormat, 1);
-    EXPECT_EQ(state.entry.degreeMinuteMode, geo::DegreeMinuteMode::Hundredths);
+    EXPECT_EQ(state.configuration.degreeFormat, geo::DegreeMinuteMode::Hundredths);
     EXPECT_EQ(Text("Text6_1"), seconds);
     Open();
     EXPECT_TRUE(form->Option2->isChecked()) << "and the choice is forgotten";
@@ -233,7 +232,7 @@ TEST_F(CfgFormTest, TheListingModeCanBeChosenByKeys)
     QTest::keyClick(form->Option5[1], Qt::Key_Down);
     QTest::keyClick(form, Qt::Key_Return);
     EXPECT_FALSE(form->isVisible()) << "Return is O.k.";
-    EXPECT_EQ(state.configuration.listingMode, 2);
+    EXPECT_EQ(state.configuration.listingMode, stations::ListingMode::Utm);
 }
 
 TEST_F(CfgFormTest, TheFileIsNotWrittenBeforeTheEndOfTheRun)

@@ -241,12 +241,13 @@ TEST_F(CoordinateFieldsTest, ClickingTheFormatShowsBothStationsAnewAndNothingEls
     QTest::mouseClick(Find<QRadioButton>("Option2_1"), Qt::LeftButton);
     EXPECT_EQ(state.entry.activeGroup, app::EntryGroup::None);
     EXPECT_EQ(DegreeMinutes(1), (Texts{"11", "37", "30", "O", "48", "18", "45", "N"}));
-    EXPECT_EQ(state.configuration.degreeFormat, 0) << "the choice survives the run";
+    EXPECT_EQ(state.configuration.degreeFormat, geo::DegreeMinuteMode::Seconds)
+        << "the choice survives the run";
     EXPECT_EQ(others, (Texts{Text("Text1_0"), Text("Text2_0"), Text("Text3_1"), Text("Text1_1"),
                              Text("Text12_1"), Text("Text22_0")}));
     QTest::mouseClick(Find<QRadioButton>("Option2_0"), Qt::LeftButton);
     EXPECT_EQ(DegreeMinutes(1), (Texts{"11", "37", "50", "O", "48", "18", "75", "N"}));
-    EXPECT_NE(state.configuration.degreeFormat, 0);
+    EXPECT_EQ(state.configuration.degreeFormat, geo::DegreeMinuteMode::Hundredths);
 }
 
 TEST_F(CoordinateFieldsTest, WritingTheTextAFieldShowsStillRefreshesTheForms)

@@ -231,13 +231,13 @@ TEST_F(FileCommandsTest, ListingFollowsTheConfiguredLayout)
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.mode);
-        state.configuration.listingMode = c.mode;
+        state.configuration.listingMode = static_cast<stations::ListingMode>(c.mode);
         dialogs.answers = {true};
         ChooseFile("new.lst");
         Choose("MnuList");
         EXPECT_EQ(Bytes(Path("new.lst")), c.position + texts);
     }
-    state.configuration.listingMode = 0;
+    state.configuration.listingMode = stations::ListingMode::DegreeMinutes;
     QTest::mouseClick(Find<QAbstractButton>("Option2_1"), Qt::LeftButton);
     dialogs.answers = {true};
     ChooseFile("new.lst");
@@ -250,7 +250,7 @@ TEST_F(FileCommandsTest, ListingAndImportAgree)
     state.database = {};
     state.database.Append(Record("QQ1A", -48.3125, 11.62512345));
     state.database.Append(Record("ÖÄ", 0.5, -0.25));
-    state.configuration.listingMode = 1;
+    state.configuration.listingMode = stations::ListingMode::Degrees;
     state.numberFormat = base::NumberFormat(",");
     ChooseFile("grad.txt");
     Choose("MnuList");

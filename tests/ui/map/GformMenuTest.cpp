@@ -85,7 +85,7 @@ TEST_F(GformMenuTest, ChecksWhatTheSharedSwitchesSay)
 {
     state.configuration.showStation2 = false;
     state.configuration.optimisedDisplay = true;
-    state.configuration.labelChoice = 3;
+    state.configuration.labelChoice = stations::LabelChoice::Frequency;
     Open();
     for (const char* const on : {"MnuSel", "MnuAlle", "MnuRZ4", "MnuS1Anz", "MnuRef", "MnuOptAusg",
                                  "MnuOptAnzg", "MnuNop"}) {
@@ -112,7 +112,7 @@ TEST_F(GformMenuTest, SwitchesOutliveTheWindow)
     EXPECT_FALSE(kept.showReferencePoints);
     EXPECT_FALSE(kept.optimisedOutput);
     EXPECT_TRUE(kept.optimisedDisplay);
-    EXPECT_EQ(kept.labelChoice, 4);
+    EXPECT_EQ(kept.labelChoice, stations::LabelChoice::Remark);
 
     form.reset();
     Open();
@@ -132,7 +132,7 @@ TEST_F(GformMenuTest, LabelChoiceChecksExactlyItsItem)
     for (int chosen = 0; chosen < 5; ++chosen) {
         for (const int again : {1, 2}) {  // choosing it again does not take the mark away
             Choose(items[chosen]);
-            EXPECT_EQ(state.configuration.labelChoice, chosen) << again;
+            EXPECT_EQ(static_cast<int>(state.configuration.labelChoice), chosen) << again;
             for (int i = 0; i < 5; ++i) {
                 EXPECT_EQ(Checked(items[i]), i == chosen) << chosen << ' ' << i;
             }
@@ -143,13 +143,13 @@ TEST_F(GformMenuTest, LabelChoiceChecksExactlyItsItem)
 TEST_F(GformMenuTest, LabelChoiceThatDoesNotExistIsShownAsTheCallsign)
 {
     for (const int stored : {-1, 5, 32767, -32768}) {
-        state.configuration.labelChoice = static_cast<std::int16_t>(stored);
+        state.configuration.labelChoice = static_cast<stations::LabelChoice>(stored);
         Open();
         EXPECT_TRUE(Checked("MnuRZ1")) << stored;
         for (const char* const other : {"MnuRZ2", "MnuRZ3", "MnuRZ4", "MnuRZ5"}) {
             EXPECT_FALSE(Checked(other)) << stored;
         }
-        EXPECT_EQ(state.configuration.labelChoice, stored) << "nobody has chosen";
+        EXPECT_EQ(static_cast<int>(state.configuration.labelChoice), stored) << "nobody has chosen";
     }
 }
 

@@ -22,7 +22,7 @@ protected:
         QCoreApplication::sendEvent(form->Picture1, &event);
     }
 
-    std::int16_t Zoom() const { return state.configuration.displaySize; }
+    std::int16_t Zoom() const { return state.configuration.zoomLevel; }
 };
 
 TEST_F(GformTest, HasItsControlsUnderTheirNames)
@@ -63,7 +63,7 @@ TEST_F(GformTest, ButtonsZoomAndStopAtTheEnds)
 
 TEST_F(GformTest, ZoomingAtTheEndStillRedraws)
 {
-    state.configuration.displaySize = 1;
+    state.configuration.zoomLevel = 1;
     Open();
     const QImage before = Picture();
     AddRecord({48.00005, 11.0}, "NEU");
@@ -72,7 +72,7 @@ TEST_F(GformTest, ZoomingAtTheEndStillRedraws)
     EXPECT_EQ(Zoom(), 1);
     EXPECT_NE(Picture(), before);
 
-    state.configuration.displaySize = 33;
+    state.configuration.zoomLevel = 33;
     form->Redraw();
     const QImage far = Picture();
     AddRecord({-30.0, 11.0}, "FERN");

@@ -60,7 +60,7 @@ constexpr const char* kFewReferences = "Fehler: mindestens 3 gültige Referenzpu
 
 TEST_F(MapFilesTest, LoadDialogOffersPicturesAndStartsInTheLastFolder)
 {
-    state.configuration.textSetting3 = "/tmp";
+    state.configuration.lastMapFolder = "/tmp";
     Choose("MnuGLoad");  // cancelled
     ASSERT_EQ(dialogs.asked.size(), 1U);
     EXPECT_TRUE(dialogs.asked[0].filter.startsWith(
@@ -90,8 +90,8 @@ TEST_F(MapFilesTest, LoadingRemembersNameAndFolder)
     const QString file = MapFile(300, 200);
     LoadMap(file);
     EXPECT_EQ(state.map.imageName, file.toStdString());
-    EXPECT_EQ(state.configuration.textSetting2, file.toStdString());
-    EXPECT_EQ(state.configuration.textSetting3, folder.path().toStdString());
+    EXPECT_EQ(state.configuration.lastImage, file.toStdString());
+    EXPECT_EQ(state.configuration.lastMapFolder, folder.path().toStdString());
     EXPECT_TRUE(state.map.mapImage);
 }
 

@@ -63,7 +63,7 @@ TEST_F(MapMouseTest, PressShowsThePositionInTheCaption)
     EXPECT_EQ(Title(), Caption(TruePosition(501, 251)));
     ClickAt(502, 252, Qt::MiddleButton);
     EXPECT_EQ(Title(), Caption(TruePosition(502, 252)));
-    state.entry.degreeMinuteMode = geo::DegreeMinuteMode::Seconds;
+    state.configuration.degreeFormat = geo::DegreeMinuteMode::Seconds;
     ClickAt(500, 250);
     EXPECT_EQ(Title(), "  48.45'00\"   10.30'00\"");
 }

@@ -161,7 +161,7 @@ TEST_F(MapPainterTest, MapWithEqualEdgesDrawsNoStations)
 
 TEST_F(MapPainterTest, StationsFarOutsideAreLeftOut)
 {
-    state.configuration.displaySize = 1;  // 30000 units a kilometre
+    state.configuration.zoomLevel = 1;  // 30000 units a kilometre
     AddStation(North(2.1666), "NAH");
     AddStation(North(2.1668), "WEIT");
     AddStation({-48.0, -169.0}, "ANTIPODE");
@@ -244,7 +244,7 @@ TEST_F(MapPainterTest, LabelIsTheChosenField)
                  {3, "145.500", ""},      {4, "Relais", ""},    {17, "DL1ABC", "DL2XYZ"}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.choice);
-        state.configuration.labelChoice = c.choice;
+        state.configuration.labelChoice = static_cast<stations::LabelChoice>(c.choice);
         Frame();
         EXPECT_EQ(Labels(), (std::vector<std::string>{c.first, c.second}));
     }
@@ -270,13 +270,13 @@ TEST_F(MapPainterTest, FollowsEveryChange)
     expectLike("one less");
     state.shown.position[0] = North(2.0);
     expectLike("Station 1");
-    state.configuration.displaySize = 12;
+    state.configuration.zoomLevel = 12;
     expectLike("zoom level");
     view.surface = {.width = 500, .height = 333};
     expectLike("surface");
-    state.configuration.labelChoice = 2;
+    state.configuration.labelChoice = stations::LabelChoice::Place;
     expectLike("label choice");
-    state.configuration.labelChoice = 0;
+    state.configuration.labelChoice = stations::LabelChoice::Callsign;
     ShowMap();
     expectLike("map view");
     UseReferences();
@@ -299,7 +299,7 @@ TEST_F(MapPainterTest, RingsAndRadialsStandAtTheirPlaces)
                           Case{1, {420, 280}}, Case{14, {420, 280}}, Case{33, {420, 280}}}) {
         SCOPED_TRACE(testing::Message()
                      << "level " << c.zoomLevel << ", height " << c.surface.height);
-        state.configuration.displaySize = c.zoomLevel;
+        state.configuration.zoomLevel = c.zoomLevel;
         view.surface = c.surface;
         const QImage frame = Frame();
         const int cx = c.surface.width / 2;
@@ -392,9 +392,9 @@ TEST_F(MapPainterTest, RouteGoesThroughThePolarViewToo)
         view.route = route;
         return frame;
     }();
-    state.configuration.displaySize = 1;
+    state.configuration.zoomLevel = 1;
     EXPECT_FALSE(Frame().isNull());
-    state.configuration.displaySize = 14;
+    state.configuration.zoomLevel = 14;
     EXPECT_NE(Frame(), ground);
 }
 
