@@ -17,6 +17,7 @@
 #include "app/AppState.h"
 #include "ui/UserDialogs.h"
 #include "ui/main/MainForm.h"
+#include "ui/main/StationListFrame.h"
 
 namespace {
 
@@ -170,7 +171,7 @@ int main(int argc, char** argv)
                               {.latitude = 48.0, .longitude = 11.0}, "2001.01.01-00:00:00");
     while (state.database.Append(record)) {
     }
-    window.List1Load();
+    window.findChild<ui::StationListFrame*>()->List1Load();
     Measure(window, state, state.database.Count());
     return EXIT_SUCCESS;
 }

@@ -23,6 +23,7 @@
 #include "map/Georeference.h"
 #include "ui/ScriptedDialogs.h"
 #include "ui/main/MainForm.h"
+#include "ui/main/StationListFrame.h"
 #include "ui/map/FakeMainWindow.h"
 #include "ui/map/Gform.h"
 #include "ui/map/MapPainter.h"
@@ -257,7 +258,7 @@ void MeasureEvents()
     const auto references = world.state.map.references;
     window.Start();
     world.Fill();
-    window.List1Load();
+    window.findChild<ui::StationListFrame*>()->List1Load();
     world.state.map.references = references;
     world.state.map.edges = {.left = 11.0, .right = 12.0, .upper = 49.0, .lower = 48.0};
     auto* const form = new ui::Gform(world.state, world.image, window, dialogs);
@@ -292,7 +293,7 @@ void MeasureEvents()
                   {"MnuRefClr", "click: delete a reference: table changes"}};
     for (const auto& mode : clicks) {
         world.state.database.Truncate(kStations - 100);
-        window.List1Load();
+        window.findChild<ui::StationListFrame*>()->List1Load();
         Trigger(*form, mode.item);
         Slowest(mode.name, *form, [&] {
             world.state.shown.position[1].latitude += 1e-3;

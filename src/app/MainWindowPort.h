@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <system_error>
 
 #include "geo/GeoPosition.h"
 #include "stations/StationRecord.h"
@@ -24,8 +25,9 @@ public:
     // Builds the shared records of Station 1 and Station 2 from the panels.
     virtual void S1S2_Update() = 0;
 
-    // Fills the station list anew from the database.
-    virtual void List1Load() = 0;
+    // The one door for what has changed in the database: fills the station list, rewrites the
+    // working file, announces the change. The error of the write, of which nobody has told yet.
+    virtual std::error_code TakeDatabaseChange() = 0;
 
     // True when line `index` of the station list is marked.
     virtual bool IsMarked(std::size_t index) const = 0;

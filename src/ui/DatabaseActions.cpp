@@ -38,15 +38,6 @@ bool MayReplace(QWidget* parent, const app::AppState& state, UserDialogs& dialog
     return false;
 }
 
-bool UpdateQTHFile(QWidget* parent, app::AppState& state, UserDialogs& dialogs)
-{
-    const std::string& name = state.configuration.workingFile;
-    const stations::Written written = stations::UpdateQTHFile(
-        name, state.database, state.session.workingFileBytes, state.session.backupName);
-    TellWriteError(parent, dialogs, written.error, name);
-    return !written.error;
-}
-
 void TellTooManyRecords(QWidget* parent, UserDialogs& dialogs)
 {
     dialogs.Inform(parent, {},

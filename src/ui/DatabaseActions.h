@@ -1,4 +1,4 @@
-// Changes of the station database that tell the user when they fail.
+// What the user is told when a change of the station database or of a file is not to be.
 
 #pragma once
 
@@ -27,9 +27,6 @@ void TellNotReplaced(QWidget* parent, UserDialogs& dialogs, const std::string& f
 // False, with a message, for a file that the program keeps itself.
 bool MayReplace(QWidget* parent, const app::AppState& state, UserDialogs& dialogs,
                 const std::string& fileName);
-
-// Rewrites the working file. The database in memory stays as it is when that fails.
-bool UpdateQTHFile(QWidget* parent, app::AppState& state, UserDialogs& dialogs);
 
 // Says that the database holds all the records it can.
 void TellTooManyRecords(QWidget* parent, UserDialogs& dialogs);

@@ -39,29 +39,6 @@ TEST_F(DatabaseActionsTest, WithoutAnErrorNothingIsSaid)
     EXPECT_TRUE(dialogs.said.empty());
 }
 
-TEST_F(DatabaseActionsTest, TheWorkingFileIsRewrittenUnderItsConfiguredName)
-{
-    state.configuration.workingFile = "Relais.QTH";
-    state.database.Append(stations::MakeRecord({"ONE"}));
-    EXPECT_TRUE(UpdateQTHFile(nullptr, state, dialogs));
-    EXPECT_EQ(folder.Names(), std::vector<std::string>{"Relais.QTH"});
-    EXPECT_EQ(GetFile("Relais.QTH").size(), 20U + 2 * 290);
-    EXPECT_TRUE(dialogs.said.empty());
-}
-
-TEST_F(DatabaseActionsTest, AWriteProtectedWorkingFileIsToldAndKept)
-{
-    PutFile("WORK.QTH", "kept");
-    fs::permissions("WORK.QTH", fs::perms(0444));
-    state.database.Append(stations::MakeRecord({"ONE"}));
-    EXPECT_FALSE(UpdateQTHFile(nullptr, state, dialogs));
-    ASSERT_EQ(dialogs.said.size(), 1U);
-    EXPECT_EQ(dialogs.said[0].title, u"Schreibfehler"_s);
-    EXPECT_TRUE(dialogs.said[0].text.startsWith(u"Das Schreiben auf die Datei WORK.QTH schlug"_s));
-    EXPECT_EQ(GetFile("WORK.QTH"), "kept");
-    EXPECT_EQ(state.database.Count(), 1U) << "the database in memory stays as it is";
-}
-
 TEST_F(DatabaseActionsTest, TheProgramsOwnFilesAreRefusedUnderAnyName)
 {
     state.configuration.workingFile = "Relais.QTH";

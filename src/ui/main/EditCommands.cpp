@@ -21,8 +21,7 @@ void EditCommands::RemoveEqualEntries()
         return;
     }
     stations::RemoveEqualEntries(state_.database, state_.list.order);
-    list_.List1Load();
-    window_.UpdateQTHFile();
+    list_.TakeAndTell();
 }
 
 void EditCommands::MarkEqual(stations::Equality equality)
@@ -30,12 +29,9 @@ void EditCommands::MarkEqual(stations::Equality equality)
     state_.list.key = stations::ListKey::Latitude;
     const std::vector<std::size_t> equal =
         stations::FindEqualEntries(state_.database, equality, state_.list.order);
-    list_.List1Load();
-    if (state_.database.Empty()) {
-        return;
+    if (!state_.database.Empty()) {
+        list_.TakeAndTell({.show = [&] { list_.ShowMarks(equal); }});
     }
-    list_.ShowMarks(equal);
-    window_.UpdateQTHFile();
 }
 
 void EditCommands::SetStation1ToMean()

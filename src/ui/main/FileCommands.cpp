@@ -93,45 +93,42 @@ FileCommands::FileCommands(QWidget& window, app::AppState& state, UserDialogs& d
 {
 }
 
-bool FileCommands::Open()
+void FileCommands::Open()
 {
     const QString file = dialogs_.OpenFile(
         &window_, {.title = u"QTH Datenbank öffnen"_s, .filter = kDatabaseFilter, .folder = {}});
     if (file.isEmpty()) {
-        return false;
+        return;
     }
     if (base::SameFile(Native(file), state_.session.backupName)) {
         dialogs_.Inform(&window_, {},
                         u"Die Datei "_s + file
                             + u" ist die Sicherung vom letzten Start, sie wird nicht zur "
                               u"Arbeitsdatei!\n„Anfügen“ holt ihre Einträge zurück."_s);
-        return false;
+        return;
     }
     const ExchangeResult result =
         stations::Open(Native(file), {.database = state_.database,
                                       .workingFile = state_.configuration.workingFile,
                                       .oldBytes = state_.session.workingFileBytes});
     if (result == ExchangeResult::Done) {
-        list_.List1Load();
+        list_.TakeDatabaseChange({.isOnDisk = true});
     }
     Tell(result, file);
-    return result == ExchangeResult::Done;
 }
 
-bool FileCommands::Append()
+void FileCommands::Append()
 {
     const QString file = dialogs_.OpenFile(
         &window_, {.title = u"QTH Datenbank anfügen"_s, .filter = kDatabaseFilter, .folder = {}});
     if (file.isEmpty()) {
-        return false;
+        return;
     }
     const ExchangeResult result = stations::AppendFile(Native(file), state_.database);
     if (result == ExchangeResult::Done) {
-        list_.List1Load();
-        UpdateQTHFile(&window_, state_, dialogs_);
+        list_.TakeAndTell();
     }
     Tell(result, file);
-    return result == ExchangeResult::Done;
 }
 
 void FileCommands::SaveMarked()
@@ -139,16 +136,13 @@ void FileCommands::SaveMarked()
     ExportMarked(list_.List1->MarkedRows());
 }
 
-bool FileCommands::MoveOutMarked()
+void FileCommands::MoveOutMarked()
 {
     const std::vector<std::size_t> marked = list_.List1->MarkedRows();
-    if (!ExportMarked(marked) || marked.empty()) {
-        return false;
+    if (ExportMarked(marked) && !marked.empty()) {
+        state_.database.Delete(marked);
+        list_.TakeAndTell();
     }
-    state_.database.Delete(marked);
-    list_.List1Load();
-    UpdateQTHFile(&window_, state_, dialogs_);
-    return true;
 }
 
 bool FileCommands::ExportMarked(const std::vector<std::size_t>& marked)
@@ -188,27 +182,26 @@ void FileCommands::WriteListing()
                    name);
 }
 
-bool FileCommands::ImportText()
+void FileCommands::ImportText()
 {
     const QString file = dialogs_.OpenFile(
         &window_,
         {.title = u"Excel Textfile import (TEST)"_s, .filter = kTextFilter, .folder = {}});
     if (file.isEmpty()) {
-        return false;
+        return;
     }
     const base::FileContents contents = base::ReadFile(Native(file));
     if (contents.status != base::FileStatus::Readable) {
         Tell(ExchangeResult::Unreadable, file);
-        return false;
+        return;
     }
     const stations::ImportResult result = stations::ImportText(
         contents.bytes, base::TimeStamp(std::time(nullptr)), state_.database, ComposedUtf8);
     if (result.tooMany) {
         TellTooManyRecords(&window_, dialogs_);
-        return false;
+        return;
     }
-    list_.List1Load();
-    const bool written = UpdateQTHFile(&window_, state_, dialogs_);
+    const bool written = list_.TakeAndTell();
     const QString imported =
         ImportedText(result) + (written ? u"!"_s : u", aber nicht gespeichert!"_s);
     // The notice would hide behind the box.
@@ -217,7 +210,6 @@ bool FileCommands::ImportText()
     } else if (written) {
         notice_.ShowMessage(imported);
     }
-    return result.imported > 0;
 }
 
 bool FileCommands::MayListInto(const std::string& name)

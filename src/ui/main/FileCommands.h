@@ -18,18 +18,18 @@ class MessageBar;
 class StationListFrame;
 class UserDialogs;
 
-// Cancelling a file dialog ends each of them without a word. True when the database has changed.
+// Cancelling a file dialog ends each of them without a word.
 class FileCommands {
 public:
     FileCommands(QWidget& window, app::AppState& state, UserDialogs& dialogs,
                  StationListFrame& list, Display& notice, MessageBar& messages);
 
-    bool Open();           // MnuOpen: another database file becomes the working file
-    bool Append();         // MnuAppend: its records come behind those of the database
+    void Open();           // MnuOpen: another database file becomes the working file
+    void Append();         // MnuAppend: its records come behind those of the database
     void SaveMarked();     // Command7
-    bool MoveOutMarked();  // Command6: like SaveMarked, then the marked records are removed
+    void MoveOutMarked();  // Command6: like SaveMarked, then the marked records are removed
     void WriteListing();   // MnuList
-    bool ImportText();     // MnuTest
+    void ImportText();     // MnuTest
 
 private:
     // Writes the marked records to a file that the user chooses; false when that was not done.

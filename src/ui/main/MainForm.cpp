@@ -72,11 +72,7 @@ MainForm::MainForm(app::AppState& state, UserDialogs& dialogs)
     connect(list_, &StationListFrame::DatabaseChanged, this, &MainForm::Changed);
     connect(list_->List1, &StationListView::LineChosen, this, &MainForm::TakeLine);
     connect(list_->Command7, &QPushButton::clicked, this, [this] { files_->SaveMarked(); });
-    connect(list_->Command6, &QPushButton::clicked, this, [this] {
-        if (files_->MoveOutMarked()) {
-            emit Changed();
-        }
-    });
+    connect(list_->Command6, &QPushButton::clicked, this, [this] { files_->MoveOutMarked(); });
     connect(result_->Command5, &QPushButton::clicked, this, &MainForm::ShowMap);
     connect(configuration_, &CfgForm::Confirmed, this, &MainForm::TakeConfiguration);
     DrawPictures();
@@ -219,14 +215,9 @@ void MainForm::S1S2_Update()
     state_.shown.record = {NewRecord(0), NewRecord(1)};
 }
 
-void MainForm::List1Load()
+std::error_code MainForm::TakeDatabaseChange()
 {
-    list_->List1Load();
-}
-
-void MainForm::UpdateQTHFile()
-{
-    ui::UpdateQTHFile(this, state_, dialogs_);
+    return list_->TakeDatabaseChange().error;
 }
 
 bool MainForm::IsMarked(std::size_t index) const
@@ -246,11 +237,8 @@ void MainForm::TakeLine(int row)
     SetStation(station, stations::TextsOf(record), record.Position());
     if (mode == app::ListMode::Clear) {
         state_.database.Delete(index);
-        // Opened for loading: a deletion does not stay in delete mode. Filled before the file is
-        // written, so that behind a message about that the list still is the database.
-        list_->Open(app::ListMode::Get, station);
-        UpdateQTHFile();
-        emit Changed();
+        // Shown for loading: a deletion does not stay in delete mode.
+        list_->TakeAndTell({.show = [=, this] { list_->Show(app::ListMode::Get, station); }});
     }
     list_->ResetSortCombo();
 }
@@ -265,11 +253,9 @@ void MainForm::SavePanel(int station)
         || !AppendRecord(this, state_, dialogs_, stations::BuildRecord(texts, position, now))) {
         return;
     }
-    List1Load();
-    if (ui::UpdateQTHFile(this, state_, dialogs_)) {
+    if (list_->TakeAndTell()) {
         notice_->ShowMessage(u"Eintrag gespeichert!"_s);
     }
-    emit Changed();
 }
 
 void MainForm::TakeConfiguration()

@@ -13,7 +13,7 @@
 
 namespace app {
 struct StartReport;
-}
+}  // namespace app
 
 namespace ui {
 
@@ -45,11 +45,8 @@ public:
     void SetStation(int station, const stations::StationTexts& texts,
                     geo::GeoPosition position) override;
     void S1S2_Update() override;
-    void List1Load() override;
+    std::error_code TakeDatabaseChange() override;
     bool IsMarked(std::size_t index) const override;
-
-    // Rewrites the working file and tells the user when that fails.
-    void UpdateQTHFile();
 
     PictureClip* PC1;  // the pictures of the buttons
 

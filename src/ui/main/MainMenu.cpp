@@ -30,46 +30,32 @@ struct MainForm::MenuItem {
 
 void MainForm::AddMenus()
 {
-    // Tells an open map when a command has changed the database.
-    const auto telling = [this](bool (FileCommands::*command)()) {
-        return [this, command] {
-            if ((files_.get()->*command)()) {
-                emit Changed();
-            }
-        };
-    };
     const auto marking = [this](stations::Equality equality) {
-        return [this, equality] {
-            edits_->MarkEqual(equality);
-            emit Changed();
-        };
+        return [this, equality] { edits_->MarkEqual(equality); };
     };
     AddMenu(u"Datei"_s,
             {
-                {"MnuOpen", u"Öffnen"_s, telling(&FileCommands::Open), QKeySequence::Open},
-                {"MnuAppend", u"Anfügen"_s, telling(&FileCommands::Append)},
+                {"MnuOpen", u"Öffnen"_s, [this] { files_->Open(); }, QKeySequence::Open},
+                {"MnuAppend", u"Anfügen"_s, [this] { files_->Append(); }},
                 {},
                 {"MnuConfig", u"Konfiguration"_s, [this] { configuration_->Edit(); }},
                 {},
                 {"MnuList", u"Listing"_s, [this] { files_->WriteListing(); }},
                 {},
-                {"MnuTest", u"Test"_s, telling(&FileCommands::ImportText)},
+                {"MnuTest", u"Test"_s, [this] { files_->ImportText(); }},
                 {"MnuExit", u"Beenden"_s, [this] { close(); }, QKeySequence(u"Ctrl+Q"_s)},
             });
-    AddMenu(u"Bearbeiten"_s,
-            {
-                {"MnuGEE", u"gleiche Einträge entfernen"_s,
-                 [this] {
-                     edits_->RemoveEqualEntries();
-                     emit Changed();
-                 }},
-                {"MnuDopMark", u"doppelte Einträge markieren"_s, marking(stations::Equality::Full)},
-                {"MnuGlPMark", u"gleiche Positionen markieren"_s,
-                 marking(stations::Equality::Position)},
-                {},
-                {"MnuMiWert", u"S1 = Mittelwert markierte Stationen"_s,
-                 [this] { edits_->SetStation1ToMean(); }},
-            });
+    AddMenu(
+        u"Bearbeiten"_s,
+        {
+            {"MnuGEE", u"gleiche Einträge entfernen"_s, [this] { edits_->RemoveEqualEntries(); }},
+            {"MnuDopMark", u"doppelte Einträge markieren"_s, marking(stations::Equality::Full)},
+            {"MnuGlPMark", u"gleiche Positionen markieren"_s,
+             marking(stations::Equality::Position)},
+            {},
+            {"MnuMiWert", u"S1 = Mittelwert markierte Stationen"_s,
+             [this] { edits_->SetStation1ToMean(); }},
+        });
     AddMenu(u"Ansicht"_s, {{"MnuKarte", u"Karte"_s, [this] { ShowMap(); }}});
     AddMenu(u"Hilfe"_s, {
                             {"MnuFaq", u"FAQ"_s, [this] { ShowHelp(); }, QKeySequence(Qt::Key_F1)},

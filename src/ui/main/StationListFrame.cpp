@@ -82,9 +82,34 @@ void StationListFrame::List1Check()
     }
 }
 
-void StationListFrame::FillList(std::vector<double> keyValues)
+stations::Written StationListFrame::TakeDatabaseChange(const DatabaseChange& change)
 {
-    model_->Fill(state_.list.key, std::move(keyValues));
+    // Filled before the file is written, so that behind a message about that the list still is the
+    // database.
+    FillList(change.keyValues);
+    if (change.show) {
+        change.show();
+    }
+    stations::Written written;
+    if (!change.isOnDisk) {
+        written =
+            stations::UpdateQTHFile(state_.configuration.workingFile, state_.database,
+                                    state_.session.workingFileBytes, state_.session.backupName);
+    }
+    emit DatabaseChanged();
+    return written;
+}
+
+bool StationListFrame::TakeAndTell(const DatabaseChange& change)
+{
+    const std::error_code error = TakeDatabaseChange(change).error;
+    TellWriteError(window(), dialogs_, error, state_.configuration.workingFile);
+    return !error;
+}
+
+void StationListFrame::FillList(const std::vector<double>& keyValues)
+{
+    model_->Fill(state_.list.key, keyValues);
     List1->SetLongestLine(model_->LongestLine());
     Command6->setEnabled(false);
     Command7->setEnabled(false);
@@ -92,10 +117,13 @@ void StationListFrame::FillList(std::vector<double> keyValues)
 
 void StationListFrame::Open(app::ListMode mode, int targetPanel, QWidget* opener)
 {
-    if (opener != nullptr) {
-        opener_ = opener;
-    }
+    opener_ = opener;
     List1Load();
+    Show(mode, targetPanel);
+}
+
+void StationListFrame::Show(app::ListMode mode, int targetPanel)
+{
     const QString station = QString::number(targetPanel + 1);
     setTitle(mode == app::ListMode::Get ? u"Station "_s + station + u" Laden"_s
                                         : u"remove => Station "_s + station);
@@ -147,9 +175,7 @@ void StationListFrame::SortChosen(int entry)
             stations::KeyValues(state_.database, *key, state_.shown.position[0]);
         if (!state_.database.Empty()) {
             stations::Sort(state_.database, *key, state_.list.order, keyValues);
-            FillList(std::move(keyValues));
-            UpdateQTHFile(this, state_, dialogs_);
-            emit DatabaseChanged();
+            TakeAndTell({.keyValues = std::move(keyValues)});
         }
     }
     ResetSortCombo();

@@ -2,12 +2,14 @@
 
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include <QGroupBox>
 #include <QPointer>
 
 #include "app/AppState.h"
+#include "stations/WorkingFile.h"
 
 class QComboBox;
 class QPushButton;
@@ -18,11 +20,24 @@ class StationListModel;
 class StationListView;
 class UserDialogs;
 
+// What goes with a change of the database.
+struct DatabaseChange {
+    std::vector<double> keyValues = {};  // of every record, for the key that leads the lines
+    std::function<void()> show = {};     // what the filled list shows besides
+    bool isOnDisk = false;               // the database was read from the working file
+};
+
 class StationListFrame : public QGroupBox {
     Q_OBJECT
 
 public:
     StationListFrame(app::AppState& state, UserDialogs& dialogs, QWidget* parent = nullptr);
+
+    // The one door for what has changed in the database: fills the list, rewrites the working file
+    // and announces the change. Whoever calls it tells of an error.
+    stations::Written TakeDatabaseChange(const DatabaseChange& change = {});
+    // The same, and tells of an error; false then.
+    bool TakeAndTell(const DatabaseChange& change = {});
 
     // Fills the list: line k is record k. No line is marked afterwards.
     void List1Load();
@@ -30,8 +45,10 @@ public:
     void List1Check();
 
     // Shows the frame, filled, for a panel: a click on a line will then load (Get) or delete
-    // (Clear). The focus goes into the list and at Close() to `opener`; none: to the opener before.
-    void Open(app::ListMode mode, int targetPanel, QWidget* opener = nullptr);
+    // (Clear). The focus goes into the list and at Close() to `opener`.
+    void Open(app::ListMode mode, int targetPanel, QWidget* opener);
+    // The same for the list as it is; at Close() the focus goes where it went before.
+    void Show(app::ListMode mode, int targetPanel);
     // Marks exactly these lines, in ascending order, and shows the frame so that they can be seen.
     // The focus stays; at Close() it comes back there.
     void ShowMarks(const std::vector<std::size_t>& rows);
@@ -56,7 +73,7 @@ signals:
 
 private:
     QPushButton* NewButton(const QString& name, const QString& text);
-    void FillList(std::vector<double> keyValues);
+    void FillList(const std::vector<double>& keyValues);
     void SortChosen(int entry);
 
     app::AppState& state_;

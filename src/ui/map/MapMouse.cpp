@@ -93,8 +93,8 @@ ClickResult MapMouse::AddLandmark()
         return {};
     }
     ++landmarks_;
-    mainWindow_.List1Load();
-    UpdateQTHFile(window_, state_, dialogs_);
+    TellWriteError(window_, dialogs_, mainWindow_.TakeDatabaseChange(),
+                   state_.configuration.workingFile);
     return {.redraw = true};
 }
 

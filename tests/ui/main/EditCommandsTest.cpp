@@ -29,11 +29,7 @@ protected:
                                   {.latitude = latitude, .longitude = longitude}, "")));
     }
 
-    void Show()
-    {
-        window.List1Load();
-        window.UpdateQTHFile();
-    }
+    void Show() { window.TakeDatabaseChange(); }
 
     void Choose(const char* action) { Find<QAction>(action)->trigger(); }
 

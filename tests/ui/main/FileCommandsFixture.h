@@ -47,8 +47,7 @@ protected:
         for (const char* const callsign : {"QQ1A", "QQ2B", "QQ3C", "QQ4D"}) {
             ASSERT_TRUE(state.database.Append(Record(callsign)));
         }
-        window.List1Load();
-        window.UpdateQTHFile();
+        window.TakeDatabaseChange();
     }
 
     void Choose(const char* action) { Find<QAction>(action)->trigger(); }

@@ -90,8 +90,7 @@ TEST_F(SortComboTest, EachEntrySortsTheRecordsTheListAndTheFile)
     for (const auto& c : cases) {
         SCOPED_TRACE(list->SortCombo->itemText(c.entry).toStdString());
         state.database = Stations();
-        window.List1Load();
-        window.UpdateQTHFile();
+        window.TakeDatabaseChange();
         const QSignalSpy changes(&window, &MainForm::Changed);
         SortBy(c.entry);
         if (c.entry != 9) {
@@ -116,7 +115,7 @@ TEST_F(SortComboTest, TheDirectionCountsFromNorthOverEast)
           {"NORTH", {49.0, 11.45}}}) {
         state.database.Append(stations::MakeRecord({callsign}, position));
     }
-    window.List1Load();
+    window.TakeDatabaseChange();
     SortBy(9);
     EXPECT_EQ(Held(), "NORTH EAST SOUTH WEST ");
     EXPECT_EQ(Lines()[0], "0.00° - NORTH -  - ");
@@ -147,7 +146,7 @@ TEST_F(SortComboTest, LeavingTheOpenSelectorWithEscapeSortsNothing)
 TEST_F(SortComboTest, AnEmptyDatabaseIsNeitherSortedNorWritten)
 {
     state.database = {};
-    window.List1Load();
+    window.TakeDatabaseChange();
     const std::string before = GetFile("WORK.QTH");
     SortBy(8);
     EXPECT_EQ(state.list.key, stations::ListKey::Callsign);

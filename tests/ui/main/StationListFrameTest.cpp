@@ -266,6 +266,28 @@ TEST_F(StationListFrameTest, ADeletionThatCannotBeWrittenIsTold)
     EXPECT_EQ(Saved(), "DL3C DL1A DL5E DL2B DL4D ");
 }
 
+TEST_F(StationListFrameTest, AChangeIsShownThenWrittenThenAnnounced)
+{
+    Texts steps;
+    QObject::connect(list->List1->model(), &QAbstractItemModel::modelReset, list,
+                     [&] { steps.push_back("shown, still on the disk: " + Saved()); });
+    QObject::connect(&window, &MainForm::Changed, list,
+                     [&] { steps.push_back("announced, on the disk: " + Saved()); });
+    state.database.Truncate(2);
+    EXPECT_FALSE(window.TakeDatabaseChange());
+    EXPECT_EQ(steps, (Texts{"shown, still on the disk: DL3C DL1A DL5E DL2B DL4D ",
+                            "announced, on the disk: DL3C DL1A "}));
+}
+
+TEST_F(StationListFrameTest, AChangeThatCannotBeWrittenIsAnnouncedAndItsErrorHandedBack)
+{
+    ASSERT_TRUE(QFile::setPermissions(u"WORK.QTH"_s, QFile::ReadOwner));
+    const QSignalSpy changes(&window, &MainForm::Changed);
+    EXPECT_TRUE(window.TakeDatabaseChange());
+    EXPECT_EQ(changes.count(), 1);
+    EXPECT_TRUE(dialogs.said.empty()) << "whoever changed the database tells";
+}
+
 TEST_F(StationListFrameTest, MarkedLinesEnableTheirButtonsUntilTheNextFill)
 {
     const auto enabled = [this] {
@@ -284,7 +306,7 @@ TEST_F(StationListFrameTest, MarkedLinesEnableTheirButtonsUntilTheNextFill)
     EXPECT_FALSE(enabled());
     Press(Qt::Key_Down);
     EXPECT_TRUE(enabled()) << "marked by a key";
-    window.List1Load();
+    window.TakeDatabaseChange();
     EXPECT_FALSE(enabled());
     list->ShowMarks({0, 2});
     EXPECT_TRUE(enabled()) << "marked by a command";

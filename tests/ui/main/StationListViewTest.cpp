@@ -20,7 +20,7 @@ protected:
     void SetUp() override
     {
         StationListFixture::SetUp();
-        list->Open(app::ListMode::Get, 0);
+        list->Show(app::ListMode::Get, 0);
         chosen = std::make_unique<QSignalSpy>(list->List1, &StationListView::LineChosen);
     }
 
@@ -185,7 +185,7 @@ TEST_F(StationListViewTest, AFillTakesEveryMarkAway)
 {
     list->List1->MarkRows({0, 1, 4});
     ASSERT_TRUE(list->List1->IsMarked(4));
-    window.List1Load();
+    window.TakeDatabaseChange();
     EXPECT_FALSE(list->List1->IsMarked(4));
     EXPECT_EQ(CurrentRow(), -1);
     Press(Qt::Key_Return);
@@ -197,7 +197,7 @@ TEST_F(StationListViewTest, LongLinesAreScrolledNotCut)
     EXPECT_FALSE(list->List1->horizontalScrollBar()->isVisible());
     const std::string name(120, 'W');
     ASSERT_TRUE(state.database.Append(stations::MakeRecord({"DL9Z", name, "Ort"})));
-    window.List1Load();
+    window.TakeDatabaseChange();
     QCoreApplication::processEvents();
     EXPECT_TRUE(list->List1->horizontalScrollBar()->isVisible());
     const int lineWidth = list->List1->fontMetrics().horizontalAdvance(
@@ -210,7 +210,7 @@ TEST_F(StationListViewTest, ALineOfFewWideLettersIsNotCutEither)
     const std::string wide(100, 'W');
     ASSERT_TRUE(state.database.Append(stations::MakeRecord({std::string(200, 'i')})));
     ASSERT_TRUE(state.database.Append(stations::MakeRecord({wide})));
-    window.List1Load();
+    window.TakeDatabaseChange();
     list->List1->scrollToBottom();
     list->List1->repaint();
     QCoreApplication::processEvents();

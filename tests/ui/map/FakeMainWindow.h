@@ -8,6 +8,7 @@
 
 #include "app/AppState.h"
 #include "app/MainWindowPort.h"
+#include "stations/WorkingFile.h"
 
 namespace ui {
 
@@ -32,7 +33,13 @@ public:
         calls.emplace_back("S1S2_Update");
     }
 
-    void List1Load() override { calls.emplace_back("List1Load"); }
+    std::error_code TakeDatabaseChange() override
+    {
+        calls.emplace_back("TakeDatabaseChange");
+        return stations::UpdateQTHFile(state_.configuration.workingFile, state_.database,
+                                       state_.session.workingFileBytes, state_.session.backupName)
+            .error;
+    }
     bool IsMarked(std::size_t index) const override { return marked.contains(index); }
 
     std::array<stations::StationTexts, 2> panel;

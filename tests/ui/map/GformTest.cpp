@@ -295,7 +295,7 @@ TEST_F(GformTest, OwnMessageBoxIsNoActivation)
     form->activateWindow();
     ASSERT_TRUE(
         QTest::qWaitFor([this] { return QGuiApplication::focusWindow() == form->windowHandle(); }));
-    EXPECT_EQ(mainWindow.calls, std::vector<std::string>{"List1Load"});
+    EXPECT_EQ(mainWindow.calls, std::vector<std::string>{"TakeDatabaseChange"});
     EXPECT_EQ(form->HScroll1->value(), 50);
     mainWindow.calls.clear();
 

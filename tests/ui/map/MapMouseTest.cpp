@@ -180,7 +180,7 @@ TEST_F(MapMouseTest, LandmarksAreNumberedInTheOrderOfTheirClicks)
     Choose("MnuAddLand");
     mainWindow.calls.clear();
     ClickAt(512, 300);
-    EXPECT_EQ(mainWindow.calls, (std::vector<std::string>{"List1Load"}));
+    EXPECT_EQ(mainWindow.calls, (std::vector<std::string>{"TakeDatabaseChange"}));
     EXPECT_EQ(Written().Count(), 1U);
     ClickAt(100, 200);
     ASSERT_EQ(state.database.Count(), 2U);

@@ -136,7 +136,7 @@ TEST_F(MapStoryTest, FromAScanToLandmarksAndBack)
     texts.callsign = "DL1ABC";
     ASSERT_TRUE(state.database.Append(
         stations::BuildRecord(texts, PositionOf(1400, 900), "2024.05.01-12:00:00")));
-    window.List1Load();
+    window.TakeDatabaseChange();
     EXPECT_TRUE(MarkerStandsAt(1400, 900));
     EXPECT_FALSE(MarkerStandsAt(1430, 930));
 
