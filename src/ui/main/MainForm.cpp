@@ -69,7 +69,11 @@ MainForm::MainForm(app::AppState& state, UserDialogs& dialogs)
     edits_ = std::make_unique<EditCommands>(state_, *this, *list_);
     ConnectPanels();
     connect(fields_, &CoordinateFields::StationsChanged, this, &MainForm::Changed);
-    connect(list_, &StationListFrame::DatabaseChanged, this, &MainForm::Changed);
+    connect(list_, &StationListFrame::DatabaseChanged, this,
+            [this](const stations::Written& written) {
+                TellKept(written);
+                emit Changed();
+            });
     connect(list_->List1, &StationListView::LineChosen, this, &MainForm::TakeLine);
     connect(list_->Command7, &QPushButton::clicked, this, [this] { files_->SaveMarked(); });
     connect(list_->Command6, &QPushButton::clicked, this, [this] { files_->MoveOutMarked(); });
@@ -223,6 +227,20 @@ std::error_code MainForm::TakeDatabaseChange()
 bool MainForm::IsMarked(std::size_t index) const
 {
     return list_->List1->IsMarked(index);
+}
+
+void MainForm::TellKept(const stations::Written& written)
+{
+    // After an error the next write sets the same bytes aside.
+    if (written.error) {
+        return;
+    }
+    if (!written.keptAs.empty()) {
+        messages_->Tell(KeptText(state_.configuration.workingFile, written.keptAs));
+    }
+    if (!written.backupKeptAs.empty()) {
+        messages_->Tell(KeptText(state_.session.backupName, written.backupKeptAs));
+    }
 }
 
 void MainForm::TakeLine(int row)

@@ -74,6 +74,7 @@ private:
 
     stations::StationTexts TextsOf(int station) const;
     stations::StationRecord NewRecord(int station) const;
+    void TellKept(const stations::Written& written);
     void TakeLine(int row);
     void SavePanel(int station);
     void TakeConfiguration();

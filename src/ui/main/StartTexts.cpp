@@ -76,6 +76,12 @@ QString NoticeText(const app::StartNotice& notice)
     return {};
 }
 
+QString KeptText(const std::string& file, const std::string& keptAs)
+{
+    return u"Die alten Bytes der Datei "_s + Shown(file) + u" liegen jetzt in "_s + Shown(keptAs)
+           + u'.';
+}
+
 QString PassedOverText(const std::string& ownFolder, const QString& used)
 {
     return u"Der Ordner des Programms, "_s + Shown(ownFolder)

@@ -1,4 +1,4 @@
-// What the start of a run has to tell, in German.
+// What the start of a run and its first write have to tell, in German.
 
 #pragma once
 
@@ -13,6 +13,9 @@ QString FaultText(const app::SetupFault& fault);
 
 // One line.
 QString NoticeText(const app::StartNotice& notice);
+
+// Where the bytes are that a write has replaced.
+QString KeptText(const std::string& file, const std::string& keptAs);
 
 // `used` is the data folder that is used in place of the program's own.
 QString PassedOverText(const std::string& ownFolder, const QString& used);

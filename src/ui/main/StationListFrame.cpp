@@ -96,7 +96,7 @@ stations::Written StationListFrame::TakeDatabaseChange(const DatabaseChange& cha
             stations::UpdateQTHFile(state_.configuration.workingFile, state_.database,
                                     state_.session.workingFileBytes, state_.session.backupName);
     }
-    emit DatabaseChanged();
+    emit DatabaseChanged(written);
     return written;
 }
 

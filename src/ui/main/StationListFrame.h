@@ -69,7 +69,7 @@ public:
     QPushButton* Command7;  // "Sichern": save the marked entries to a file
 
 signals:
-    void DatabaseChanged();
+    void DatabaseChanged(const stations::Written& written);
 
 private:
     QPushButton* NewButton(const QString& name, const QString& text);

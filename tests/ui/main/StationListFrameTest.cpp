@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QSignalSpy>
 
+#include "ui/main/MessageBar.h"
 #include "ui/main/StationListFixture.h"
 
 namespace ui {
@@ -286,6 +287,17 @@ TEST_F(StationListFrameTest, AChangeThatCannotBeWrittenIsAnnouncedAndItsErrorHan
     EXPECT_TRUE(window.TakeDatabaseChange());
     EXPECT_EQ(changes.count(), 1);
     EXPECT_TRUE(dialogs.said.empty()) << "whoever changed the database tells";
+}
+
+TEST_F(StationListFrameTest, WhatWasSetAsideAtAWriteIsTold)
+{
+    state.session.workingFileBytes = stations::OldBytes::Unknown;
+    Click("SA_0");
+    EXPECT_EQ(window.findChild<MessageBar*>()->Messages(),
+              (QStringList{u"Die alten Bytes der Datei WORK.QTH liegen jetzt in WORK.QTH.ALT."_s,
+                           u"Die alten Bytes der Datei WORK.BAK liegen jetzt in WORK.BAK.ALT."_s}));
+    Click("SA_1");
+    EXPECT_EQ(window.findChild<MessageBar*>()->Messages().size(), 2) << "once";
 }
 
 TEST_F(StationListFrameTest, MarkedLinesEnableTheirButtonsUntilTheNextFill)
