@@ -13,6 +13,7 @@
 
 #include "app/MapState.h"
 #include "base/NumberText.h"
+#include "base/OldBytes.h"
 #include "geo/GeoPosition.h"
 #include "stations/Configuration.h"
 #include "stations/ListLine.h"
@@ -69,8 +70,8 @@ struct SessionState {
     std::string backupName = stations::kBackupName;
     bool configurationSaved = false;    // the file is written once at the end of a run
     bool configurationChanged = false;  // by the configuration dialog
-    stations::OldBytes workingFileBytes = stations::OldBytes::Known;
-    stations::OldBytes configurationBytes = stations::OldBytes::Known;
+    base::OldBytes workingFileBytes = base::OldBytes::Known;
+    base::OldBytes configurationBytes = base::OldBytes::Known;
 };
 
 struct AppState {

@@ -12,10 +12,10 @@ namespace app {
 
 namespace {
 
+using base::OldBytes;
+using base::Written;
 using stations::ConfigurationStatus;
 using stations::DatabaseStatus;
-using stations::OldBytes;
-using stations::Written;
 using Fault = SetupFault::Kind;
 using Notice = StartNotice::Kind;
 
@@ -145,7 +145,7 @@ private:
     void NewWorkingFile(Notice kind)
     {
         const std::string& name = state_.configuration.workingFile;
-        const Written written = stations::UpdateQTHFile(
+        const stations::Written written = stations::UpdateQTHFile(
             name, state_.database, session_.workingFileBytes, session_.backupName);
         // Nothing is missing in a folder that the program has not been in before.
         if (NoteFailure(written, name, session_.workingFileBytes)
@@ -160,11 +160,11 @@ private:
         OldBytes ignored = OldBytes::Known;
         const Written written =
             stations::WriteBackup(state_.database, session_.workingFileBytes, session_.backupName);
-        if (!NoteFailure(written, session_.backupName, ignored) && !written.backupKeptAs.empty()) {
+        if (!NoteFailure(written, session_.backupName, ignored) && !written.keptAs.empty()) {
             Note({.kind = Notice::BackupReplaced,
                   .file = session_.backupName,
                   .other = {},
-                  .keptAs = written.backupKeptAs});
+                  .keptAs = written.keptAs});
         }
     }
 

@@ -1,11 +1,12 @@
 #include "stations/Configuration.h"
 
 #include "base/FileBytes.h"
-#include "base/FileNames.h"
 
 namespace stations {
 
 namespace {
+
+using base::OldBytes;
 
 constexpr std::int32_t kMagic = 150758;
 constexpr std::size_t kConfigurationSize = 2172;
@@ -130,20 +131,10 @@ ConfigurationContents ReadConfiguration(const std::string& name)
     return UnpackConfiguration(file.bytes);
 }
 
-Written WriteConfiguration(const std::string& name, const Configuration& configuration,
-                           OldBytes& oldBytes)
+base::Written WriteConfiguration(const std::string& name, const Configuration& configuration,
+                                 OldBytes& oldBytes)
 {
-    Written written;
-    if (oldBytes == OldBytes::Unknown) {
-        written.error = base::SetAside(name, written.keptAs);
-    }
-    if (!written.error) {
-        written.error = base::WriteFile(name, PackConfiguration(configuration));
-    }
-    if (!written.error) {
-        oldBytes = OldBytes::Known;
-    }
-    return written;
+    return base::ReplaceFile(name, {PackConfiguration(configuration)}, oldBytes);
 }
 
 }  // namespace stations

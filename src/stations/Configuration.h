@@ -31,13 +31,12 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <system_error>
 
 #include "base/Bytes.h"
+#include "base/OldBytes.h"
 #include "geo/AngleText.h"
 #include "stations/Listing.h"
 #include "stations/StationRecord.h"
-#include "stations/WorkingFile.h"
 
 namespace stations {
 
@@ -98,7 +97,7 @@ enum class ConfigurationStatus {
 struct ConfigurationContents {
     ConfigurationStatus status = ConfigurationStatus::New;
     Configuration configuration;  // the defaults unless read
-    OldBytes oldBytes = OldBytes::Known;
+    base::OldBytes oldBytes = base::OldBytes::Known;
 };
 
 // Fields behind the end of `bytes` have their defaults; bytes behind the record are not read. A
@@ -107,9 +106,8 @@ ConfigurationContents UnpackConfiguration(base::ByteView bytes);
 
 ConfigurationContents ReadConfiguration(const std::string& name);
 
-// Writes the configuration file. Bytes that are not known are set aside first; when that fails
-// nothing is written. Success makes the bytes known.
-Written WriteConfiguration(const std::string& name, const Configuration& configuration,
-                           OldBytes& oldBytes);
+// Replaces the configuration file, see base::ReplaceFile.
+base::Written WriteConfiguration(const std::string& name, const Configuration& configuration,
+                                 base::OldBytes& oldBytes);
 
 }  // namespace stations

@@ -26,7 +26,7 @@ enum class ExchangeResult {
 struct KeptDatabase {
     StationDatabase& database;
     std::string& workingFile;  // name, as in the configuration
-    OldBytes& oldBytes;
+    base::OldBytes& oldBytes;
 };
 
 // How the configuration names a file: relative to the program directory, which is the current one,

@@ -13,6 +13,8 @@ namespace stations {
 
 namespace {
 
+using base::OldBytes;
+
 constexpr std::int32_t kMagic = 171294;
 constexpr std::size_t kHeaderSize = 20;
 
@@ -86,6 +88,15 @@ bool Holds(const std::string& name, const StationDatabase& database)
            && std::ranges::equal(contents.database.Records(), database.Records());
 }
 
+base::Written Replace(const std::string& name, const StationDatabase& database, OldBytes& oldBytes)
+{
+    const base::ByteVector header = PackHeader(database.Count());
+    const std::array spare = {EmptyRecord()};
+    return base::ReplaceFile(
+        name, {header, BytesOf(database.Records()), BytesOf(std::span<const StationRecord>(spare))},
+        oldBytes);
+}
+
 }  // namespace
 
 DatabaseContents ReadDatabase(const std::string& name)
@@ -125,42 +136,30 @@ DatabaseContents ReadDatabase(const std::string& name)
 
 std::error_code WriteDatabase(const std::string& name, const StationDatabase& database)
 {
-    const base::ByteVector header = PackHeader(database.Count());
-    const std::array spare = {EmptyRecord()};
-    return base::WriteFile(name, {header, BytesOf(database.Records()),
-                                  BytesOf(std::span<const StationRecord>(spare))});
+    OldBytes known = OldBytes::Known;
+    return Replace(name, database, known).error;
 }
 
 Written UpdateQTHFile(const std::string& name, const StationDatabase& database, OldBytes& oldBytes,
                       const std::string& backupName)
 {
     Written written;
-    if (oldBytes == OldBytes::Unknown) {
-        written.error = base::SetAside(name, written.keptAs);
-        if (!written.error && MayHoldRecords(backupName)) {
-            written.error = base::SetAside(backupName, written.backupKeptAs);
-        }
+    if (oldBytes == OldBytes::Unknown && MayHoldRecords(backupName)) {
+        written.error = base::SetAside(backupName, written.backupKeptAs);
     }
     if (!written.error) {
-        written.error = WriteDatabase(name, database);
-    }
-    if (!written.error) {
-        oldBytes = OldBytes::Known;
+        static_cast<base::Written&>(written) = Replace(name, database, oldBytes);
     }
     return written;
 }
 
-Written WriteBackup(const StationDatabase& database, OldBytes source, const std::string& backupName)
+base::Written WriteBackup(const StationDatabase& database, OldBytes source,
+                          const std::string& backupName)
 {
-    Written written;
-    if ((database.Empty() || source == OldBytes::Unknown) && MayHoldRecords(backupName)
-        && !Holds(backupName, database)) {
-        written.error = base::SetAside(backupName, written.backupKeptAs);
-    }
-    if (!written.error) {
-        written.error = WriteDatabase(backupName, database);
-    }
-    return written;
+    const bool mayLose = (database.Empty() || source == OldBytes::Unknown)
+                         && MayHoldRecords(backupName) && !Holds(backupName, database);
+    OldBytes oldBytes = mayLose ? OldBytes::Unknown : OldBytes::Known;
+    return Replace(backupName, database, oldBytes);
 }
 
 }  // namespace stations

@@ -15,6 +15,7 @@
 #include <string>
 #include <system_error>
 
+#include "base/OldBytes.h"
 #include "stations/StationDatabase.h"
 
 namespace stations {
@@ -32,27 +33,15 @@ enum class DatabaseStatus {
     Unreadable,  // exists, but cannot be read
 };
 
-// What a program may still find on the disk under the name of a file it is about to replace.
-enum class OldBytes {
-    Known,    // nothing that was not read whole or written by this run
-    Unknown,  // possibly something else: it is set aside before it is replaced
-};
-
-// What became of a write.
-struct Written {
-    std::error_code error;
-    // Names under which old bytes are kept now; empty when nothing had to be set aside.
-    std::string keptAs;
-    std::string backupKeptAs;
-
-    // True when there is an error, as for the error alone.
-    explicit operator bool() const { return static_cast<bool>(error); }
+// What became of a write of the working file.
+struct Written : base::Written {
+    std::string backupKeptAs;  // where the bytes of its backup are now; empty likewise
 };
 
 struct DatabaseContents {
     DatabaseStatus status = DatabaseStatus::Missing;
     StationDatabase database;  // whole records only; those before the damage when cut short
-    OldBytes oldBytes = OldBytes::Known;  // unknown unless every byte is accounted for
+    base::OldBytes oldBytes = base::OldBytes::Known;  // unknown unless every byte is accounted for
 };
 
 // Reads a database file. A missing spare record is accepted; bytes behind it are not read.
@@ -62,14 +51,15 @@ DatabaseContents ReadDatabase(const std::string& name);
 std::error_code WriteDatabase(const std::string& name, const StationDatabase& database);
 
 // Writes the working file. Bytes that are not known are set aside first, and with them a backup
-// that holds records; when that fails nothing is written. Success makes the bytes known.
-Written UpdateQTHFile(const std::string& name, const StationDatabase& database, OldBytes& oldBytes,
-                      const std::string& backupName = kBackupName);
+// that holds records; when either fails nothing is written. Success makes the bytes known.
+Written UpdateQTHFile(const std::string& name, const StationDatabase& database,
+                      base::OldBytes& oldBytes, const std::string& backupName = kBackupName);
 
 // Writes the backup of the state found at start-up, read from a file whose old bytes are `source`.
 // A backup that holds records, and other bytes than the new one, is set aside before an empty
 // database or one from a file that was not accounted for to its last byte replaces it.
-Written WriteBackup(const StationDatabase& database, OldBytes source = OldBytes::Known,
-                    const std::string& backupName = kBackupName);
+base::Written WriteBackup(const StationDatabase& database,
+                          base::OldBytes source = base::OldBytes::Known,
+                          const std::string& backupName = kBackupName);
 
 }  // namespace stations

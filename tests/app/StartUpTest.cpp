@@ -238,7 +238,7 @@ TEST_F(StartUpTest, AWriteThatFailsIsReportedAndTheStartGoesOn)
     EXPECT_EQ(report.failedWrites, (Names{"KOMP_LOC.CFG", "WORK.BAK"}));
     EXPECT_EQ(GetFile("KOMP_LOC.CFG"), "foreign");
     EXPECT_EQ(stations::Callsigns(state.database), "ONE ") << "read nevertheless";
-    EXPECT_EQ(state.session.configurationBytes, stations::OldBytes::Unknown);
+    EXPECT_EQ(state.session.configurationBytes, base::OldBytes::Unknown);
 }
 
 TEST_F(StartUpTest, AFolderThatIsNotThereIsAFaultThatNamesTheFileHere)
@@ -246,7 +246,7 @@ TEST_F(StartUpTest, AFolderThatIsNotThereIsAFaultThatNamesTheFileHere)
     PutFile("KOMP_LOC.CFG", ConfigurationFile({.workingFile = "stick/relais.QTH"}));
     const StartReport report = LoadAtStartUp(state);
     EXPECT_EQ(report.fault, (SetupFault{SetupFault::Kind::NoFolder, "stick/relais.QTH", ""}));
-    EXPECT_EQ(state.session.workingFileBytes, stations::OldBytes::Unknown);
+    EXPECT_EQ(state.session.workingFileBytes, base::OldBytes::Unknown);
     PutFile("Relais.qth", DatabaseFile({kOne}));
     EXPECT_EQ(LoadAtStartUp(state).fault,
               (SetupFault{SetupFault::Kind::NoFolder, "stick/relais.QTH", "Relais.qth"}));

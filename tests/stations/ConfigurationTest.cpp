@@ -121,7 +121,7 @@ TEST(UnpackConfiguration, GivesBackWhatWasPacked)
 {
     const ConfigurationContents contents = Unpack(TextOf(PackConfiguration(AllDifferent())));
     EXPECT_EQ(contents.status, ConfigurationStatus::Read);
-    EXPECT_EQ(contents.oldBytes, OldBytes::Known);
+    EXPECT_EQ(contents.oldBytes, base::OldBytes::Known);
     EXPECT_EQ(contents.configuration, AllDifferent());
 }
 
@@ -131,7 +131,7 @@ TEST(UnpackConfiguration, FallsBackToTheDefaultsForAForeignFile)
     file[1588] = 'x';
     const ConfigurationContents contents = Unpack(file);
     EXPECT_EQ(contents.status, ConfigurationStatus::Foreign);
-    EXPECT_EQ(contents.oldBytes, OldBytes::Unknown);
+    EXPECT_EQ(contents.oldBytes, base::OldBytes::Unknown);
     EXPECT_EQ(contents.configuration, Configuration());
 }
 
@@ -141,7 +141,7 @@ TEST(UnpackConfiguration, SurvivesEveryLength)
     for (std::size_t length = 1; length < file.size(); ++length) {
         SCOPED_TRACE(length);
         const ConfigurationContents contents = Unpack(file.substr(0, length));
-        EXPECT_EQ(contents.oldBytes, OldBytes::Unknown);
+        EXPECT_EQ(contents.oldBytes, base::OldBytes::Unknown);
         EXPECT_EQ(contents.status,
                   length < 1592 ? ConfigurationStatus::Foreign : ConfigurationStatus::Read);
     }
@@ -160,7 +160,7 @@ TEST(UnpackConfiguration, KnowsOfBytesBehindTheRecord)
 {
     const ConfigurationContents contents = Unpack(DefaultFile() + 'x');
     EXPECT_EQ(contents.status, ConfigurationStatus::Read);
-    EXPECT_EQ(contents.oldBytes, OldBytes::Unknown);
+    EXPECT_EQ(contents.oldBytes, base::OldBytes::Unknown);
 }
 
 TEST(UnpackConfiguration, OpensTheMapOnlyInASizeThatItHas)
@@ -194,7 +194,7 @@ TEST_F(ConfigurationFileTest, IsNewWhenMissingOrEmpty)
     const ConfigurationContents contents = ReadConfiguration("K.CFG");
     EXPECT_EQ(contents.status, ConfigurationStatus::New);
     EXPECT_EQ(contents.configuration, Configuration());
-    OldBytes oldBytes = contents.oldBytes;
+    base::OldBytes oldBytes = contents.oldBytes;
     EXPECT_FALSE(WriteConfiguration("K.CFG", contents.configuration, oldBytes));
     EXPECT_EQ(GetFile("K.CFG"), DefaultFile());
     EXPECT_EQ(TemporaryFolder::Names(), Names{"K.CFG"});
@@ -202,7 +202,7 @@ TEST_F(ConfigurationFileTest, IsNewWhenMissingOrEmpty)
 
 TEST_F(ConfigurationFileTest, IsReadBackAsItWasWritten)
 {
-    OldBytes oldBytes = OldBytes::Known;
+    base::OldBytes oldBytes = base::OldBytes::Known;
     EXPECT_FALSE(WriteConfiguration("K.CFG", AllDifferent(), oldBytes));
     const ConfigurationContents contents = ReadConfiguration("K.CFG");
     EXPECT_EQ(contents.status, ConfigurationStatus::Read);
@@ -214,9 +214,9 @@ TEST_F(ConfigurationFileTest, SetsAForeignFileAsideBeforeItIsReplaced)
     PutFile("K.CFG", "foreign");
     const ConfigurationContents contents = ReadConfiguration("K.CFG");
     EXPECT_EQ(contents.status, ConfigurationStatus::Foreign);
-    OldBytes oldBytes = contents.oldBytes;
+    base::OldBytes oldBytes = contents.oldBytes;
     EXPECT_FALSE(WriteConfiguration("K.CFG", contents.configuration, oldBytes));
-    EXPECT_EQ(oldBytes, OldBytes::Known);
+    EXPECT_EQ(oldBytes, base::OldBytes::Known);
     EXPECT_EQ(GetFile("K.CFG.ALT"), "foreign");
     EXPECT_EQ(GetFile("K.CFG"), DefaultFile());
 }
@@ -227,7 +227,7 @@ TEST_F(ConfigurationFileTest, IsUnreadableWhenItIsNoFile)
     const ConfigurationContents contents = ReadConfiguration("K.CFG");
     EXPECT_EQ(contents.status, ConfigurationStatus::Unreadable);
     EXPECT_EQ(contents.configuration, Configuration());
-    OldBytes oldBytes = contents.oldBytes;
+    base::OldBytes oldBytes = contents.oldBytes;
     EXPECT_TRUE(WriteConfiguration("K.CFG", contents.configuration, oldBytes));
 }
 

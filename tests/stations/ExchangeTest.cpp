@@ -38,7 +38,7 @@ protected:
     TemporaryFolder folder;
     StationDatabase database = MakeDatabase({MakeRecord({"X"})});
     std::string workingFile = "WORK.QTH";
-    OldBytes oldBytes = OldBytes::Unknown;
+    base::OldBytes oldBytes = base::OldBytes::Unknown;
 };
 
 TEST_F(ExchangeTest, OpensAFileAsTheWorkingFile)
@@ -47,7 +47,7 @@ TEST_F(ExchangeTest, OpensAFileAsTheWorkingFile)
     EXPECT_EQ(Open("other.QTH"), ExchangeResult::Done);
     EXPECT_EQ(Callsigns(database), "0 1 ");
     EXPECT_EQ(workingFile, "other.QTH");
-    EXPECT_EQ(oldBytes, OldBytes::Known);
+    EXPECT_EQ(oldBytes, base::OldBytes::Known);
 
     database.Append(MakeRecord({"2"}));
     EXPECT_FALSE(UpdateQTHFile(workingFile, database, oldBytes));
@@ -89,7 +89,7 @@ TEST_F(ExchangeTest, ChangesNothingWhenAFileIsRefused)
         EXPECT_EQ(AppendFile(c.name, database), c.result);
         EXPECT_EQ(Callsigns(database), "X ");
         EXPECT_EQ(workingFile, "WORK.QTH");
-        EXPECT_EQ(oldBytes, OldBytes::Unknown);
+        EXPECT_EQ(oldBytes, base::OldBytes::Unknown);
     }
     EXPECT_EQ(TemporaryFolder::Names(), before) << "a missing file is not created";
 }

@@ -86,7 +86,7 @@ TEST_F(WorkingFileTest, WritesHeaderAndSpareAfresh)
     PutFile("W.QTH", file + ForeignRecord());
     const DatabaseContents contents = ReadDatabase("W.QTH");
     EXPECT_EQ(contents.status, DatabaseStatus::Complete);
-    EXPECT_EQ(contents.oldBytes, OldBytes::Known);
+    EXPECT_EQ(contents.oldBytes, base::OldBytes::Known);
     EXPECT_FALSE(WriteDatabase("W.QTH", contents.database));
     EXPECT_EQ(GetFile("W.QTH"), HeaderOf(kNoRecords) + kSpare);
 }
@@ -99,31 +99,33 @@ TEST_F(WorkingFileTest, TellsWhatIsWrongWithAFile)
         std::string file;
         std::size_t records;
         DatabaseStatus status;
-        OldBytes oldBytes;
+        base::OldBytes oldBytes;
     } cases[] = {
         {"whole", HeaderOf(kTwoRecords) + two + kSpare, 2, DatabaseStatus::Complete,
-         OldBytes::Known},
-        {"no spare", HeaderOf(kTwoRecords) + two, 2, DatabaseStatus::Complete, OldBytes::Known},
+         base::OldBytes::Known},
+        {"no spare", HeaderOf(kTwoRecords) + two, 2, DatabaseStatus::Complete,
+         base::OldBytes::Known},
         {"half a spare", HeaderOf(kTwoRecords) + two + "half", 2, DatabaseStatus::Complete,
-         OldBytes::Known},
+         base::OldBytes::Known},
         {"bytes behind the spare", HeaderOf(kTwoRecords) + two + kSpare + 'x', 2,
-         DatabaseStatus::Complete, OldBytes::Unknown},
-        {"no byte at all", "", 0, DatabaseStatus::Empty, OldBytes::Known},
+         DatabaseStatus::Complete, base::OldBytes::Unknown},
+        {"no byte at all", "", 0, DatabaseStatus::Empty, base::OldBytes::Known},
         {"half a header", HeaderOf(kTwoRecords).substr(0, 19), 0, DatabaseStatus::Foreign,
-         OldBytes::Unknown},
+         base::OldBytes::Unknown},
         {"foreign mark", HeaderOf(kTwoRecords, "MARK") + two, 0, DatabaseStatus::Foreign,
-         OldBytes::Unknown},
-        {"header alone", HeaderOf(kTwoRecords), 0, DatabaseStatus::CutShort, OldBytes::Unknown},
+         base::OldBytes::Unknown},
+        {"header alone", HeaderOf(kTwoRecords), 0, DatabaseStatus::CutShort,
+         base::OldBytes::Unknown},
         {"ends in the second record", HeaderOf(kTwoRecords) + two.substr(0, 579), 1,
-         DatabaseStatus::CutShort, OldBytes::Unknown},
+         DatabaseStatus::CutShort, base::OldBytes::Unknown},
         {"more records than the file holds", HeaderOf(std::string("\xA8\x61\x00\x00", 4)) + two, 2,
-         DatabaseStatus::CutShort, OldBytes::Unknown},
+         DatabaseStatus::CutShort, base::OldBytes::Unknown},
         {"25001 records", HeaderOf(std::string("\xA9\x61\x00\x00", 4)) + two, 0,
-         DatabaseStatus::BadCount, OldBytes::Unknown},
+         DatabaseStatus::BadCount, base::OldBytes::Unknown},
         {"largest count", HeaderOf("\xFF\xFF\xFF\x7F") + two, 0, DatabaseStatus::BadCount,
-         OldBytes::Unknown},
+         base::OldBytes::Unknown},
         {"negative count", HeaderOf("\xFF\xFF\xFF\xFF") + two, 0, DatabaseStatus::BadCount,
-         OldBytes::Unknown},
+         base::OldBytes::Unknown},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.what);
@@ -136,7 +138,7 @@ TEST_F(WorkingFileTest, TellsWhatIsWrongWithAFile)
     EXPECT_EQ(ReadDatabase("missing").status, DatabaseStatus::Missing);
     fs::create_directory("folder");
     EXPECT_EQ(ReadDatabase("folder").status, DatabaseStatus::Unreadable);
-    EXPECT_EQ(ReadDatabase("folder").oldBytes, OldBytes::Unknown);
+    EXPECT_EQ(ReadDatabase("folder").oldBytes, base::OldBytes::Unknown);
 }
 
 TEST_F(WorkingFileTest, SurvivesEveryLengthOfAFile)
@@ -173,7 +175,7 @@ TEST_F(WorkingFileTest, SurvivesEveryByteOfTheHeader)
 
 TEST_F(WorkingFileTest, ReplacesAKnownFileWithoutACopy)
 {
-    OldBytes oldBytes = OldBytes::Known;
+    base::OldBytes oldBytes = base::OldBytes::Known;
     EXPECT_FALSE(UpdateQTHFile("W.QTH", CountedDatabase(1), oldBytes));
     EXPECT_FALSE(UpdateQTHFile("W.QTH", CountedDatabase(2), oldBytes));
     EXPECT_EQ(TemporaryFolder::Names(), Names{"W.QTH"});
@@ -184,9 +186,9 @@ TEST_F(WorkingFileTest, SetsAFileAsideThatItDidNotReadWhole)
 {
     PutFile("W.QTH", "something else");
     EXPECT_FALSE(WriteDatabase("WORK.BAK", CountedDatabase(3)));
-    OldBytes oldBytes = ReadDatabase("W.QTH").oldBytes;
+    base::OldBytes oldBytes = ReadDatabase("W.QTH").oldBytes;
     EXPECT_FALSE(UpdateQTHFile("W.QTH", StationDatabase(), oldBytes));
-    EXPECT_EQ(oldBytes, OldBytes::Known);
+    EXPECT_EQ(oldBytes, base::OldBytes::Known);
     EXPECT_EQ(GetFile("W.QTH.ALT"), "something else");
     EXPECT_EQ(ReadDatabase("WORK.BAK.ALT").database.Count(), 3U);
     EXPECT_EQ(ReadDatabase("W.QTH").status, DatabaseStatus::Complete);
@@ -199,15 +201,15 @@ TEST_F(WorkingFileTest, SetsAFileAsideThatItDidNotReadWhole)
 TEST_F(WorkingFileTest, WritesNothingWhenTheOldBytesCannotBeKept)
 {
     fs::create_directory("W.QTH");
-    OldBytes oldBytes = OldBytes::Unknown;
+    base::OldBytes oldBytes = base::OldBytes::Unknown;
     EXPECT_TRUE(UpdateQTHFile("W.QTH", StationDatabase(), oldBytes));
-    EXPECT_EQ(oldBytes, OldBytes::Unknown);
+    EXPECT_EQ(oldBytes, base::OldBytes::Unknown);
     EXPECT_TRUE(fs::is_directory("W.QTH"));
 }
 
 TEST_F(WorkingFileTest, KeepsTheDatabaseAndTheFileWhenTheWriteFails)
 {
-    OldBytes oldBytes = OldBytes::Known;
+    base::OldBytes oldBytes = base::OldBytes::Known;
     EXPECT_FALSE(UpdateQTHFile("W.QTH", CountedDatabase(1), oldBytes));
     fs::permissions("W.QTH", static_cast<fs::perms>(0444));
     const StationDatabase database = CountedDatabase(2);

@@ -8,6 +8,7 @@
 
 #include "base/FileBytes.h"
 #include "base/FileNames.h"
+#include "base/OldBytes.h"
 #include "map/AdjustmentFile.h"
 #include "map/CalibrationFile.h"
 #include "ui/DatabaseActions.h"
@@ -210,14 +211,11 @@ void MapFiles::WriteCompanion(const std::string& name, bool (*known)(base::ByteV
                               base::ByteView bytes)
 {
     const base::FileContents old = base::ReadFile(name);
-    std::error_code error;
-    if (old.status == base::FileStatus::Unreadable || !(old.bytes.empty() || known(old.bytes))) {
-        error = base::SetAside(name);
-    }
-    if (!error) {
-        error = base::WriteFile(name, bytes);
-    }
-    TellWriteError(window_, dialogs_, error, name);
+    auto oldBytes =
+        old.status == base::FileStatus::Unreadable || !(old.bytes.empty() || known(old.bytes))
+            ? base::OldBytes::Unknown
+            : base::OldBytes::Known;
+    TellWriteError(window_, dialogs_, base::ReplaceFile(name, {bytes}, oldBytes).error, name);
 }
 
 void MapFiles::SaveAdjustment()
