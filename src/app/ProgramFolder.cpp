@@ -1,7 +1,6 @@
 #include "app/ProgramFolder.h"
 
 #include <filesystem>
-#include <unistd.h>
 
 #include "base/FileNames.h"
 #include "stations/Configuration.h"
@@ -28,8 +27,7 @@ bool InBuildTree(const std::filesystem::path& folder)
 
 std::string ProgramFolder(const std::string& folderOfProgram, const std::string& userFolder)
 {
-    const bool portable =
-        access(folderOfProgram.c_str(), W_OK | X_OK) == 0 && !InBuildTree(folderOfProgram);
+    const bool portable = base::MayWriteIn(folderOfProgram) && !InBuildTree(folderOfProgram);
     return portable ? folderOfProgram : userFolder;
 }
 

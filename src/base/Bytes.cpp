@@ -1,8 +1,15 @@
 #include "base/Bytes.h"
 
 #include <algorithm>
+#include <cfloat>
+#include <climits>
+#include <limits>
 
 namespace base {
+
+static_assert(CHAR_BIT == 8 && std::numeric_limits<double>::is_iec559 && sizeof(double) == 8
+                  && FLT_EVAL_METHOD == 0,
+              "doubles stand in the files, and results are those of IEEE doubles, step by step");
 
 void ByteWriter::PutText(std::string_view text, std::size_t length)
 {

@@ -1,7 +1,7 @@
 // Whole files, read and written: the only code that touches the contents of files.
 //
 // A write is durable: when it reports success the new contents are on the disk, and until then the
-// old file stays whole under its name.
+// old file stays whole under its name. What asks the system stands in posix/.
 
 #pragma once
 

@@ -1,4 +1,5 @@
-// What lies behind a file name: links, other names of the same file, copies set aside.
+// What lies behind a file name: links, other names of the same file, copies set aside. What asks
+// the system stands in posix/.
 
 #pragma once
 
@@ -17,6 +18,9 @@ std::string FollowLinks(const std::string& name);
 std::string FolderOf(const std::string& name);
 
 bool FolderExists(const std::string& folder);
+
+// True when the user may make files in `folder`.
+bool MayWriteIn(const std::string& folder);
 
 // True for any entry of a folder, a link without a target included.
 bool NameExists(const std::string& name);

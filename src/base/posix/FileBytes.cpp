@@ -187,24 +187,6 @@ bool InputFile::Read(std::span<unsigned char> target)
     return true;
 }
 
-FileContents ReadFile(const std::string& name, std::uint64_t largest)
-{
-    InputFile file(name);
-    FileContents contents = {.status = file.Status(), .bytes = {}};
-    if (file.Status() != FileStatus::Readable) {
-        return contents;
-    }
-    if (file.Size() > largest) {
-        contents.status = FileStatus::Unreadable;
-        return contents;
-    }
-    contents.bytes.resize(static_cast<std::size_t>(file.Size()));
-    if (!file.Read(contents.bytes)) {
-        return {.status = FileStatus::Unreadable, .bytes = {}};
-    }
-    return contents;
-}
-
 std::error_code WriteFile(const std::string& name, std::initializer_list<ByteView> parts)
 {
     if (name.empty() || name.find('\0') != std::string::npos) {
@@ -227,11 +209,6 @@ std::error_code WriteFile(const std::string& name, std::initializer_list<ByteVie
         return error;
     }
     return SyncFolder(folder);
-}
-
-std::error_code WriteFile(const std::string& name, ByteView bytes)
-{
-    return WriteFile(name, {bytes});
 }
 
 }  // namespace base
