@@ -32,8 +32,8 @@ constexpr int kNotch = 120;      // eighths of a degree in one notch of the whee
 Gform::Gform(app::AppState& state, MapImage& image, app::MainWindowPort& mainWindow,
              UserDialogs& dialogs)
     : state_(state), image_(image), mainWindow_(mainWindow), dialogs_(dialogs),
-      painter_(state, image, mainWindow), mouse_(state, image, mainWindow, dialogs, this),
-      files_(state, image, dialogs, this)
+      painter_(state, image, mainWindow), mouse_(state, image, mainWindow, dialogs_, this),
+      files_(state, image, dialogs_, this)
 {
     setObjectName(u"Gform"_s);
     setAttribute(Qt::WA_DeleteOnClose);
@@ -53,7 +53,7 @@ Gform::Gform(app::AppState& state, MapImage& image, app::MainWindowPort& mainWin
 
     // Another window in between: then coming back is an activation, dialogs or not.
     connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* window) {
-        if (window != nullptr && window != windowHandle() && ownDialogs_ == 0) {
+        if (window != nullptr && window != windowHandle() && !dialogs_.AnyOpen()) {
             leftForOwnDialog_ = false;
         }
     });
@@ -126,7 +126,7 @@ bool Gform::event(QEvent* event)
 {
     const bool handled = QMainWindow::event(event);
     if (event->type() == QEvent::WindowDeactivate) {
-        leftForOwnDialog_ = ownDialogs_ > 0;
+        leftForOwnDialog_ = dialogs_.AnyOpen();
     } else if (event->type() == QEvent::WindowActivate
                && !std::exchange(leftForOwnDialog_, false)) {
         Activate();

@@ -12,6 +12,7 @@
 #include "app/AppState.h"
 #include "app/MainWindowPort.h"
 #include "plot/MapView.h"
+#include "ui/CountingDialogs.h"
 #include "ui/map/ActivatingPress.h"
 #include "ui/map/MapFiles.h"
 #include "ui/map/MapImage.h"
@@ -25,7 +26,6 @@ class QScrollBar;
 namespace ui {
 
 class MapSurface;
-class UserDialogs;
 
 class Gform : public QMainWindow {
     Q_OBJECT
@@ -56,18 +56,6 @@ protected:
 
 private:
     struct MenuItem;
-
-    // While one lives, what the user sees of this program counts as this window.
-    class OwnDialogs {
-    public:
-        explicit OwnDialogs(Gform& form) : form_(form) { ++form_.ownDialogs_; }
-        ~OwnDialogs() { --form_.ownDialogs_; }
-        OwnDialogs(const OwnDialogs&) = delete;
-        OwnDialogs& operator=(const OwnDialogs&) = delete;
-
-    private:
-        Gform& form_;
-    };
 
     void AddControls();
     void AddMenus();
@@ -121,15 +109,14 @@ private:
     app::AppState& state_;
     MapImage& image_;
     app::MainWindowPort& mainWindow_;
-    UserDialogs& dialogs_;
+    CountingDialogs dialogs_;
 
     plot::MapView view_;
     MapPainter painter_;
     MapMouse mouse_;
     MapFiles files_;
 
-    int ownDialogs_ = 0;             // dialogs and message boxes of this window that are open
-    bool leftForOwnDialog_ = false;  // the window gave its activation to one of them
+    bool leftForOwnDialog_ = false;  // the window gave its activation to a dialog of its own
     ActivatingPress activatingPress_;
     QPoint turned_;  // of the wheel, not yet acted upon
     bool propertiesOpen_ = false;

@@ -8,7 +8,6 @@
 
 #include "plot/GridNodes.h"
 #include "ui/FileNameText.h"
-#include "ui/UserDialogs.h"
 #include "ui/map/Gform.h"
 #include "ui/map/MapHint.h"
 #include "ui/map/MapProperties.h"
@@ -37,7 +36,6 @@ void Gform::Click()
     if (!state_.map.mapImage) {
         return;
     }
-    const OwnDialogs dialogs(*this);
     const ClickResult result = mouse_.Click(view_.route);
     if (result.referenceAdded) {
         SetReferenceMode(true);
@@ -92,7 +90,6 @@ map::Refinement Gform::OutputRefinement() const
 
 void Gform::LoadMap()
 {
-    const OwnDialogs dialogs(*this);
     if (!files_.Load()) {
         return;
     }
@@ -134,7 +131,6 @@ void Gform::ToggleGrid(bool on)
         view_.grid = plot::MakeGrid(state_.map.references, image_.Size(), OutputRefinement());
         if (!view_.grid) {
             Item("MnuRast")->setChecked(false);
-            const OwnDialogs dialogs(*this);
             dialogs_.Inform(this, {},
                             u"Für diese Karte lässt sich kein Raster zeichnen: Ihre Referenzpunkte "
                             u"ergeben keine brauchbare Ausdehnung."_s);
@@ -145,13 +141,11 @@ void Gform::ToggleGrid(bool on)
 
 void Gform::SaveAdjustment()
 {
-    const OwnDialogs dialogs(*this);
     files_.SaveAdjustment();
 }
 
 void Gform::SaveCalibration()
 {
-    const OwnDialogs dialogs(*this);
     files_.SaveCalibration();
 }
 
