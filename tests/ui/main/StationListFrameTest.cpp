@@ -291,7 +291,7 @@ TEST_F(StationListFrameTest, AChangeThatCannotBeWrittenIsAnnouncedAndItsErrorHan
 
 TEST_F(StationListFrameTest, WhatWasSetAsideAtAWriteIsTold)
 {
-    state.session.workingFileBytes = stations::OldBytes::Unknown;
+    state.session.workingFileBytes = base::OldBytes::Unknown;
     Click("SA_0");
     EXPECT_EQ(window.findChild<MessageBar*>()->Messages(),
               (QStringList{u"Die alten Bytes der Datei WORK.QTH liegen jetzt in WORK.QTH.ALT."_s,
