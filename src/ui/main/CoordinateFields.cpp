@@ -271,6 +271,21 @@ void CoordinateFields::Set_GMS_String()
     }
 }
 
+void CoordinateFields::TakeConfiguration()
+{
+    state_.entry.activeGroup = EntryGroup::Decimal;
+    for (const int station : {0, 1}) {
+        GRDMINSEC(station);
+    }
+    for (const int station : {0, 1}) {
+        GeoGk(station);
+    }
+    for (const int station : {0, 1}) {
+        GeoUTM(station);
+    }
+    Entfernung();
+}
+
 void CoordinateFields::Option2Clicked()
 {
     state_.entry.activeGroup = EntryGroup::None;

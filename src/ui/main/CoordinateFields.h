@@ -45,6 +45,9 @@ public:
     // Takes the degree format of the configuration over and shows both stations in it.
     void Set_GMS_String();
 
+    // Shows again what a setting has changed, decimal degrees being the active group.
+    void TakeConfiguration();
+
 signals:
     void StationsChanged();  // a position, or how it is shown
 

@@ -1,9 +1,6 @@
 #include "ui/main/MainForm.h"
 
-#include <ctime>
-
 #include <QCloseEvent>
-#include <QDir>
 #include <QGridLayout>
 #include <QPushButton>
 #include <QScreen>
@@ -12,11 +9,8 @@
 
 #include "app/ShutDown.h"
 #include "app/StartUp.h"
-#include "base/TimeStamp.h"
-#include "ui/ComposedText.h"
 #include "ui/Controls.h"
 #include "ui/DatabaseActions.h"
-#include "ui/FileNameText.h"
 #include "ui/UserDialogs.h"
 #include "ui/main/CfgForm.h"
 #include "ui/main/CoordinateFields.h"
@@ -24,11 +18,12 @@
 #include "ui/main/EditCommands.h"
 #include "ui/main/FileCommands.h"
 #include "ui/main/FormHeadings.h"
+#include "ui/main/MainMenu.h"
 #include "ui/main/MessageBar.h"
 #include "ui/main/PictureClip.h"
 #include "ui/main/ResultBlock.h"
-#include "ui/main/SaveQuestion.h"
-#include "ui/main/StartTexts.h"
+#include "ui/main/RunMessages.h"
+#include "ui/main/StationCommands.h"
 #include "ui/main/StationListFrame.h"
 #include "ui/main/StationListView.h"
 #include "ui/main/StationPanel.h"
@@ -42,7 +37,6 @@ MainForm::MainForm(app::AppState& state, UserDialogs& dialogs)
 {
     setObjectName(u"MainForm"_s);
     setWindowTitle(u"KOMPASSO V"_s + QLatin1StringView(KOMPASSO_SERIES));
-    AddMenus();
 
     // On a screen that is too small for the contents every field stays within reach.
     auto* const scroll = new QScrollArea(this);
@@ -67,18 +61,26 @@ MainForm::MainForm(app::AppState& state, UserDialogs& dialogs)
     notice_ = new Display(this);
     files_ = std::make_unique<FileCommands>(*this, state_, dialogs_, *list_, *notice_, *messages_);
     edits_ = std::make_unique<EditCommands>(state_, *this, *list_);
+    stations_ =
+        std::make_unique<StationCommands>(state_, dialogs_, *this, panel_, *list_, *notice_);
+    AddMainMenu(*this, {.files = *files_,
+                        .edits = *edits_,
+                        .configuration = *configuration_,
+                        .dialogs = dialogs_,
+                        .showMap = [this] { ShowMap(); }});
     ConnectPanels();
     connect(fields_, &CoordinateFields::StationsChanged, this, &MainForm::Changed);
     connect(list_, &StationListFrame::DatabaseChanged, this,
             [this](const stations::Written& written) {
-                TellKept(written);
+                TellKept(state_, *messages_, written);
                 emit Changed();
             });
-    connect(list_->List1, &StationListView::LineChosen, this, &MainForm::TakeLine);
+    connect(list_->List1, &StationListView::LineChosen, this,
+            [this](int row) { stations_->TakeLine(row); });
     connect(list_->Command7, &QPushButton::clicked, this, [this] { files_->SaveMarked(); });
     connect(list_->Command6, &QPushButton::clicked, this, [this] { files_->MoveOutMarked(); });
     connect(result_->Command5, &QPushButton::clicked, this, &MainForm::ShowMap);
-    connect(configuration_, &CfgForm::Confirmed, this, &MainForm::TakeConfiguration);
+    connect(configuration_, &CfgForm::Confirmed, fields_, &CoordinateFields::TakeConfiguration);
     DrawPictures();
     list_->SetOpener(panel_[0]->Command1);
     list_->Close();
@@ -119,7 +121,8 @@ void MainForm::ConnectPanels()
                 [=, this] { list_->Open(app::ListMode::Get, station, panel->Command1); });
         connect(panel->Command4, &QPushButton::clicked, this,
                 [=, this] { list_->Open(app::ListMode::Clear, station, panel->Command4); });
-        connect(panel->SA, &QPushButton::clicked, this, [this, station] { SavePanel(station); });
+        connect(panel->SA, &QPushButton::clicked, this,
+                [this, station] { stations_->Save(station); });
         // Texts that are set otherwise come with a position, whose change tells of both.
         for (EntryField* const field : panel->StationFields()) {
             connect(field, &EntryField::Entered, this, &MainForm::Changed);
@@ -144,10 +147,8 @@ void MainForm::DrawPictures()
 
 bool MainForm::Start()
 {
-    if (!state_.session.passedOverFolder.empty()) {
-        messages_->Tell(PassedOverText(state_.session.passedOverFolder, QDir::currentPath()));
-    }
-    if (!TellStart(app::LoadAtStartUp(state_))) {
+    TellPassedOver(state_.session, *messages_);
+    if (!TellStart(*this, dialogs_, *messages_, app::LoadAtStartUp(state_))) {
         return false;
     }
     fields_->Set_GMS_String();
@@ -159,64 +160,16 @@ bool MainForm::Start()
     return true;
 }
 
-bool MainForm::TellStart(const app::StartReport& report)
-{
-    if (!report.failedWrites.empty()) {
-        QStringList others;
-        for (std::size_t i = 1; i < report.failedWrites.size(); ++i) {
-            others << Shown(report.failedWrites[i]);
-        }
-        // One box: the cause is probably the same.
-        TellWriteError(this, dialogs_, std::make_error_code(std::errc::io_error),
-                       report.failedWrites.front(),
-                       others.isEmpty() ? QString() : u"Ebenso: "_s + others.join(u", "_s));
-    }
-    if (report.fault
-        && dialogs_.AskOkCancel(this, u"Kompasso Setup-Fehler"_s,
-                                u"Setup-Fehler, bitte Work.* und *.cfg löschen!\nBeenden?"_s,
-                                FaultText(*report.fault))) {
-        return false;
-    }
-    for (const app::StartNotice& notice : report.notices) {
-        messages_->Tell(NoticeText(notice));
-    }
-    return true;
-}
-
 void MainForm::SetStation(int station, const stations::StationTexts& texts,
                           geo::GeoPosition position)
 {
-    const std::array<EntryField*, 6> fields =
-        panel_[static_cast<std::size_t>(station)]->StationFields();
-    const std::array shown = {&texts.callsign,  &texts.name,   &texts.place,
-                              &texts.frequency, &texts.remark, &texts.date};
-    for (std::size_t i = 0; i < fields.size(); ++i) {
-        fields[i]->Show(QString::fromStdString(*shown[i]));
-    }
+    panel_[static_cast<std::size_t>(station)]->ShowTexts(texts);
     fields_->SetPosition(station, position);
-}
-
-stations::StationTexts MainForm::TextsOf(int station) const
-{
-    const StationPanel& panel = *panel_[static_cast<std::size_t>(station)];
-    return {.callsign = Composed(panel.Text14->text()),
-            .name = Composed(panel.Text15->text()),
-            .place = Composed(panel.Text16->text()),
-            .frequency = Composed(panel.Text17->text()),
-            .remark = Composed(panel.Text18->text()),
-            .date = Composed(panel.Text19->text())};
-}
-
-stations::StationRecord MainForm::NewRecord(int station) const
-{
-    return stations::BuildRecord(TextsOf(station),
-                                 state_.shown.position[static_cast<std::size_t>(station)],
-                                 base::TimeStamp(std::time(nullptr)));
 }
 
 void MainForm::S1S2_Update()
 {
-    state_.shown.record = {NewRecord(0), NewRecord(1)};
+    state_.shown.record = {stations_->NewRecord(0), stations_->NewRecord(1)};
 }
 
 std::error_code MainForm::TakeDatabaseChange()
@@ -227,68 +180,6 @@ std::error_code MainForm::TakeDatabaseChange()
 bool MainForm::IsMarked(std::size_t index) const
 {
     return list_->List1->IsMarked(index);
-}
-
-void MainForm::TellKept(const stations::Written& written)
-{
-    // After an error the next write sets the same bytes aside.
-    if (written.error) {
-        return;
-    }
-    if (!written.keptAs.empty()) {
-        messages_->Tell(KeptText(state_.configuration.workingFile, written.keptAs));
-    }
-    if (!written.backupKeptAs.empty()) {
-        messages_->Tell(KeptText(state_.session.backupName, written.backupKeptAs));
-    }
-}
-
-void MainForm::TakeLine(int row)
-{
-    const auto index = static_cast<std::size_t>(row);
-    const app::ListMode mode = state_.list.mode;
-    if (mode == app::ListMode::Nop || index >= state_.database.Count()) {
-        return;
-    }
-    const int station = state_.list.targetPanel;
-    const stations::StationRecord record = state_.database[index];
-    SetStation(station, stations::TextsOf(record), record.Position());
-    if (mode == app::ListMode::Clear) {
-        state_.database.Delete(index);
-        // Shown for loading: a deletion does not stay in delete mode.
-        list_->TakeAndTell({.show = [=, this] { list_->Show(app::ListMode::Get, station); }});
-    }
-    list_->ResetSortCombo();
-}
-
-void MainForm::SavePanel(int station)
-{
-    const stations::StationTexts texts = TextsOf(station);
-    const geo::GeoPosition position = state_.shown.position[static_cast<std::size_t>(station)];
-    const std::string now = base::TimeStamp(std::time(nullptr));
-    const bool room = state_.database.Count() < stations::kMaxRecords;
-    if ((room && !MayStore(*this, dialogs_, station, texts, position, now))
-        || !AppendRecord(this, state_, dialogs_, stations::BuildRecord(texts, position, now))) {
-        return;
-    }
-    if (list_->TakeAndTell()) {
-        notice_->ShowMessage(u"Eintrag gespeichert!"_s);
-    }
-}
-
-void MainForm::TakeConfiguration()
-{
-    state_.entry.activeGroup = app::EntryGroup::Decimal;
-    for (const int station : {0, 1}) {
-        fields_->GRDMINSEC(station);
-    }
-    for (const int station : {0, 1}) {
-        fields_->GeoGk(station);
-    }
-    for (const int station : {0, 1}) {
-        fields_->GeoUTM(station);
-    }
-    fields_->Entfernung();
 }
 
 void MainForm::ShowMap()

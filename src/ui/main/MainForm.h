@@ -11,10 +11,6 @@
 #include "app/AppState.h"
 #include "app/MainWindowPort.h"
 
-namespace app {
-struct StartReport;
-}  // namespace app
-
 namespace ui {
 
 class CfgForm;
@@ -26,6 +22,7 @@ class FormHeadings;
 class MessageBar;
 class PictureClip;
 class ResultBlock;
+class StationCommands;
 class StationListFrame;
 class StationPanel;
 class UserDialogs;
@@ -60,27 +57,11 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    struct MenuItem;
-
-    // False when the user wants the program to end.
-    bool TellStart(const app::StartReport& report);
-
     QWidget* NewContents();
     void ConnectPanels();
     void DrawPictures();
 
-    void AddMenus();
-    void AddMenu(const QString& title, std::initializer_list<MenuItem> items);
-
-    stations::StationTexts TextsOf(int station) const;
-    stations::StationRecord NewRecord(int station) const;
-    void TellKept(const stations::Written& written);
-    void TakeLine(int row);
-    void SavePanel(int station);
-    void TakeConfiguration();
     void ShowMap();
-    void ShowHelp();
-    void ShowVersions();
 
     app::AppState& state_;
     UserDialogs& dialogs_;
@@ -94,6 +75,7 @@ private:
     MessageBar* messages_ = nullptr;
     std::unique_ptr<FileCommands> files_;
     std::unique_ptr<EditCommands> edits_;
+    std::unique_ptr<StationCommands> stations_;
 };
 
 }  // namespace ui

@@ -1,10 +1,11 @@
-// The menus of the main window as tables, and the commands that only show something.
+#include "ui/main/MainMenu.h"
 
-#include <functional>
+#include <initializer_list>
 
 #include <QAction>
 #include <QFileInfo>
 #include <QKeySequence>
+#include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QStandardPaths>
@@ -14,58 +15,24 @@
 #include "ui/main/CfgForm.h"
 #include "ui/main/EditCommands.h"
 #include "ui/main/FileCommands.h"
-#include "ui/main/MainForm.h"
 
 namespace ui {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
 // A menu item; one without a name is a separator.
-struct MainForm::MenuItem {
+struct MenuItem {
     const char* name = nullptr;
     QString caption;
     std::function<void()> command;
     QKeySequence shortcut = {};
 };
 
-void MainForm::AddMenus()
+void AddMenu(QMainWindow& window, const QString& title, std::initializer_list<MenuItem> items)
 {
-    const auto marking = [this](stations::Equality equality) {
-        return [this, equality] { edits_->MarkEqual(equality); };
-    };
-    AddMenu(u"Datei"_s,
-            {
-                {"MnuOpen", u"Öffnen"_s, [this] { files_->Open(); }, QKeySequence::Open},
-                {"MnuAppend", u"Anfügen"_s, [this] { files_->Append(); }},
-                {},
-                {"MnuConfig", u"Konfiguration"_s, [this] { configuration_->Edit(); }},
-                {},
-                {"MnuList", u"Listing"_s, [this] { files_->WriteListing(); }},
-                {},
-                {"MnuTest", u"Test"_s, [this] { files_->ImportText(); }},
-                {"MnuExit", u"Beenden"_s, [this] { close(); }, QKeySequence(u"Ctrl+Q"_s)},
-            });
-    AddMenu(
-        u"Bearbeiten"_s,
-        {
-            {"MnuGEE", u"gleiche Einträge entfernen"_s, [this] { edits_->RemoveEqualEntries(); }},
-            {"MnuDopMark", u"doppelte Einträge markieren"_s, marking(stations::Equality::Full)},
-            {"MnuGlPMark", u"gleiche Positionen markieren"_s,
-             marking(stations::Equality::Position)},
-            {},
-            {"MnuMiWert", u"S1 = Mittelwert markierte Stationen"_s,
-             [this] { edits_->SetStation1ToMean(); }},
-        });
-    AddMenu(u"Ansicht"_s, {{"MnuKarte", u"Karte"_s, [this] { ShowMap(); }}});
-    AddMenu(u"Hilfe"_s, {
-                            {"MnuFaq", u"FAQ"_s, [this] { ShowHelp(); }, QKeySequence(Qt::Key_F1)},
-                            {"MnuVers", u"Versionen"_s, [this] { ShowVersions(); }},
-                        });
-}
-
-void MainForm::AddMenu(const QString& title, std::initializer_list<MenuItem> items)
-{
-    QMenu* const menu = menuBar()->addMenu(title);
+    QMenu* const menu = window.menuBar()->addMenu(title);
     for (const MenuItem& item : items) {
         if (item.name == nullptr) {
             menu->addSeparator();
@@ -73,31 +40,74 @@ void MainForm::AddMenu(const QString& title, std::initializer_list<MenuItem> ite
         }
         QAction* const action = Named(menu->addAction(item.caption), QLatin1StringView(item.name));
         action->setShortcut(item.shortcut);
-        connect(action, &QAction::triggered, this, item.command);
+        QObject::connect(action, &QAction::triggered, &window, item.command);
     }
 }
 
-void MainForm::ShowHelp()
+void ShowHelp(QMainWindow& window, UserDialogs& dialogs)
 {
     const QString name = u"KOMPLOC1.HLP"_s;
     const QString file = QFileInfo::exists(name)
                              ? QFileInfo(name).absoluteFilePath()
                              : QStandardPaths::locate(QStandardPaths::AppDataLocation, name);
-    if (file.isEmpty() || !dialogs_.OpenDocument(file)) {
-        dialogs_.Inform(this, {}, u"Die Hilfedatei "_s + name + u" lässt sich nicht öffnen."_s);
+    if (file.isEmpty() || !dialogs.OpenDocument(file)) {
+        dialogs.Inform(&window, {}, u"Die Hilfedatei "_s + name + u" lässt sich nicht öffnen."_s);
     }
 }
 
-void MainForm::ShowVersions()
+void ShowVersions(QMainWindow& window, UserDialogs& dialogs)
 {
-    dialogs_.Inform(
-        this, u"Kompasso von QQ0AAA"_s,
+    dialogs.Inform(
+        &window, u"Kompasso von QQ0AAA"_s,
         u"History\n"
         u"V0.25: kleinere Detailänderungen, Rechengenauigkeit Entfernung verbessert\n"
         u"V0.26: Bug in Entfernungsberechnung der V0.25 beseitigt\n"
         u"V0.27: Direkte GMS/GMH Umschaltung auf der Hauptseite\n"
         u"V0.28: Programmabbruch in Kartendarstellung nach fehlendem Listenupdate beseitigt,\n"
         u"           Stationsanzeige auswählbar, Anzeigeparameter sichern"_s);
+}
+
+}  // namespace
+
+void AddMainMenu(QMainWindow& window, const MainCommands& commands)
+{
+    FileCommands& files = commands.files;
+    EditCommands& edits = commands.edits;
+    CfgForm& configuration = commands.configuration;
+    UserDialogs& dialogs = commands.dialogs;
+    const auto marking = [&edits](stations::Equality equality) {
+        return [&edits, equality] { edits.MarkEqual(equality); };
+    };
+    AddMenu(window, u"Datei"_s,
+            {
+                {"MnuOpen", u"Öffnen"_s, [&files] { files.Open(); }, QKeySequence::Open},
+                {"MnuAppend", u"Anfügen"_s, [&files] { files.Append(); }},
+                {},
+                {"MnuConfig", u"Konfiguration"_s, [&configuration] { configuration.Edit(); }},
+                {},
+                {"MnuList", u"Listing"_s, [&files] { files.WriteListing(); }},
+                {},
+                {"MnuTest", u"Test"_s, [&files] { files.ImportText(); }},
+                {"MnuExit", u"Beenden"_s, [&window] { window.close(); }, QKeySequence(u"Ctrl+Q"_s)},
+            });
+    AddMenu(
+        window, u"Bearbeiten"_s,
+        {
+            {"MnuGEE", u"gleiche Einträge entfernen"_s, [&edits] { edits.RemoveEqualEntries(); }},
+            {"MnuDopMark", u"doppelte Einträge markieren"_s, marking(stations::Equality::Full)},
+            {"MnuGlPMark", u"gleiche Positionen markieren"_s,
+             marking(stations::Equality::Position)},
+            {},
+            {"MnuMiWert", u"S1 = Mittelwert markierte Stationen"_s,
+             [&edits] { edits.SetStation1ToMean(); }},
+        });
+    AddMenu(window, u"Ansicht"_s, {{"MnuKarte", u"Karte"_s, commands.showMap}});
+    AddMenu(window, u"Hilfe"_s,
+            {
+                {"MnuFaq", u"FAQ"_s, [&window, &dialogs] { ShowHelp(window, dialogs); },
+                 QKeySequence(Qt::Key_F1)},
+                {"MnuVers", u"Versionen"_s, [&window, &dialogs] { ShowVersions(window, dialogs); }},
+            });
 }
 
 }  // namespace ui

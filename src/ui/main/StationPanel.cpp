@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "ui/ComposedText.h"
 #include "ui/Controls.h"
 
 namespace ui {
@@ -62,6 +63,26 @@ void StationPanel::ShowUnits(geo::DegreeMinuteMode mode)
         unit_[i + 2]->setText(seconds ? u"″"_s : u"H"_s);
         unit_[i + 2]->setToolTip(seconds ? u"Sekunden"_s : u"Hundertstel Minuten"_s);
     }
+}
+
+void StationPanel::ShowTexts(const stations::StationTexts& texts)
+{
+    const std::array shown = {&texts.callsign,  &texts.name,   &texts.place,
+                              &texts.frequency, &texts.remark, &texts.date};
+    const std::array<EntryField*, 6> fields = StationFields();
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        fields[i]->Show(QString::fromStdString(*shown[i]));
+    }
+}
+
+stations::StationTexts StationPanel::Texts() const
+{
+    return {.callsign = Composed(Text14->text()),
+            .name = Composed(Text15->text()),
+            .place = Composed(Text16->text()),
+            .frequency = Composed(Text17->text()),
+            .remark = Composed(Text18->text()),
+            .date = Composed(Text19->text())};
 }
 
 EntryField* StationPanel::NewField(const char* name, int columns, const QString& accessibleName)

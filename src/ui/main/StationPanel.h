@@ -7,6 +7,7 @@
 #include <QObject>
 
 #include "geo/AngleText.h"
+#include "stations/StationRecord.h"
 #include "ui/main/EntryField.h"
 
 class QGridLayout;
@@ -43,6 +44,10 @@ public:
     {
         return {Text4, Text5, Text6, Text7, Text8, Text9, Text10, Text11};
     }
+
+    // The texts of the station; what was typed is composed.
+    void ShowTexts(const stations::StationTexts& texts);
+    stations::StationTexts Texts() const;
 
     // Text14 to Text19: callsign, name, place, frequency, remark, date.
     std::array<EntryField*, 6> StationFields() const
