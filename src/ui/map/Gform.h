@@ -25,6 +25,7 @@ class QScrollBar;
 
 namespace ui {
 
+class MapPane;
 class MapSurface;
 
 class Gform : public QMainWindow {
@@ -51,13 +52,11 @@ public:
 
 protected:
     bool event(QEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
     struct MenuItem;
 
-    void AddControls();
     void AddMenus();
     void AddFileMenu();
     void AddDisplayMenu();
@@ -70,20 +69,12 @@ private:
     void OfferClickModes(QPoint point);
 
     void Activate();
-    void Layout();
-    void LayoutStrip(int left);
-    void ShowClip();
 
     void SetImageMode(bool on);
     void SetReferenceMode(bool on);
     void ShowReferenceMode();
     void SetClickMode(app::ClickMode mode);
     void SetLabelChoice(stations::LabelChoice choice);
-
-    void ZoomIn();
-    void ZoomOut();
-    void Scroll(int dx, int dy) const;
-    void Turn(QPoint eighths);
 
     void Press(plot::SurfacePoint point);
     void Click();
@@ -99,8 +90,6 @@ private:
     void ClearAllReferences();
     void ClearLastReference();
     void ContinueRoute();
-    void ShowProperties();
-    void FoldProperties();
 
     QString HintAt(plot::SurfacePoint point) const;
     bool GivesPositionAt(plot::SurfacePoint point) const;  // false where the references give none
@@ -110,6 +99,7 @@ private:
     MapImage& image_;
     app::MainWindowPort& mainWindow_;
     CountingDialogs dialogs_;
+    MapPane* pane_ = nullptr;
 
     plot::MapView view_;
     MapPainter painter_;
@@ -118,8 +108,6 @@ private:
 
     bool leftForOwnDialog_ = false;  // the window gave its activation to a dialog of its own
     ActivatingPress activatingPress_;
-    QPoint turned_;  // of the wheel, not yet acted upon
-    bool propertiesOpen_ = false;
 };
 
 }  // namespace ui

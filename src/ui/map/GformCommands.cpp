@@ -2,16 +2,12 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QListWidget>
 #include <QPointer>
-#include <QScrollBar>
 
 #include "plot/GridNodes.h"
-#include "ui/FileNameText.h"
 #include "ui/map/Gform.h"
 #include "ui/map/MapHint.h"
-#include "ui/map/MapProperties.h"
-#include "ui/map/MapSurface.h"
+#include "ui/map/MapPane.h"
 
 namespace ui {
 
@@ -25,8 +21,7 @@ void Gform::Press(plot::SurfacePoint point)
     if (!isActiveWindow()) {
         activatingPress_.PressedInactive(view_.route.Count());
     } else if (const std::optional<plot::SurfacePoint> clip = activatingPress_.ClipPressed()) {
-        HScroll1->setValue(clip->x);
-        VScroll1->setValue(clip->y);
+        pane_->ScrollTo(*clip);
     }
     setWindowTitle(mouse_.Press(point, view_.clipOrigin));
 }
@@ -97,9 +92,8 @@ void Gform::LoadMap()
     view_.grid.reset();
     ShowReferenceMode();
     SetImageMode(true);
-    Layout();
-    HScroll1->setValue(0);
-    VScroll1->setValue(0);
+    pane_->Layout();
+    pane_->ScrollTo({});
     view_.route.Clear();
     Redraw();
 }
@@ -107,13 +101,13 @@ void Gform::LoadMap()
 void Gform::LeaveMap()
 {
     SetImageMode(false);
-    Layout();
+    pane_->Layout();
     Redraw();
     // What the window system has waiting, a new size above all, comes before the view is drawn.
     const QPointer<Gform> window(this);
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     if (!window.isNull()) {
-        Layout();
+        pane_->Layout();
         Redraw();
     }
 }
@@ -172,28 +166,6 @@ void Gform::ClearLastReference()
 void Gform::ContinueRoute()
 {
     SetClickMode(view_.route.Empty() ? app::ClickMode::RouteStart : app::ClickMode::RouteContinue);
-}
-
-void Gform::ShowProperties()
-{
-    const QString imageName = Shown(state_.map.imageName);
-    List1->clear();
-    for (const std::string& line :
-         PropertyLines(state_.map, image_.Size(), imageName.toStdString(), state_.numberFormat)) {
-        List1->addItem(QString::fromStdString(line));
-    }
-    propertiesOpen_ = true;
-    Layout();
-    List1->raise();
-    List1->setFocus();
-}
-
-void Gform::FoldProperties()
-{
-    if (propertiesOpen_) {
-        propertiesOpen_ = false;
-        Layout();
-    }
 }
 
 }  // namespace ui

@@ -5,11 +5,10 @@
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPushButton>
 
 #include "ui/Controls.h"
 #include "ui/map/Gform.h"
-#include "ui/map/MapSurface.h"
+#include "ui/map/MapPane.h"
 
 namespace ui {
 
@@ -136,7 +135,7 @@ void Gform::AddDisplayMenu()
             {"MnuMin12"},
             {"MnuRast", u"Rasteranzeige"_s, [this](bool on) { ToggleGrid(on); }, true},
             {"MnuMin14"},
-            {"MnuEig", u"Eigenschaften"_s, [this](bool) { ShowProperties(); }},
+            {"MnuEig", u"Eigenschaften"_s, [this](bool) { pane_->ShowProperties(); }},
         });
 }
 
@@ -197,13 +196,11 @@ void Gform::ShowSwitches()
 void Gform::SetImageMode(bool on)
 {
     state_.map.mapImage = on;
-    Command1->setVisible(!on);
-    Command2->setVisible(!on);
+    pane_->SetImageMode(on);
     for (const char* const name : {"MnuClk", "MnuBearb"}) {
         findChild<QMenu*>(QLatin1StringView(name))->menuAction()->setEnabled(on);
     }
     Item("MnuPicOff")->setEnabled(on);
-    turned_ = {};
     SetClickMode(state_.map.clickMode);  // for the pointer's form
 }
 
