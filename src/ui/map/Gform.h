@@ -13,6 +13,7 @@
 #include "app/MainWindowPort.h"
 #include "plot/MapView.h"
 #include "ui/CountingDialogs.h"
+#include "ui/MenuTable.h"
 #include "ui/map/ActivatingPress.h"
 #include "ui/map/MapFiles.h"
 #include "ui/map/MapImage.h"
@@ -55,8 +56,6 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    struct MenuItem;
-
     void AddMenus();
     void AddFileMenu();
     void AddDisplayMenu();

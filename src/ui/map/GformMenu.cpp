@@ -1,7 +1,5 @@
 // The menus of the map window as tables, and their states.
 
-#include <functional>
-
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
@@ -36,15 +34,6 @@ constexpr ClickItem kClickItems[] = {
 
 }  // namespace
 
-// A menu item; one without a caption is a separator line. Check items keep their own mark and hand
-// it to the command.
-struct Gform::MenuItem {
-    const char* name;
-    QString caption = {};
-    std::function<void(bool)> command = {};
-    bool checkable = false;
-};
-
 void Gform::AddMenus()
 {
     AddFileMenu();
@@ -62,19 +51,7 @@ QMenu* Gform::NewMenu(const char* name, const QString& caption)
 
 void Gform::AddItems(QMenu* menu, std::initializer_list<MenuItem> items)
 {
-    for (const MenuItem& item : items) {
-        const QLatin1StringView name(item.name);
-        if (item.caption.isEmpty()) {
-            Named(menu->addSeparator(), name);
-            continue;
-        }
-        QAction* const action = Named(menu->addAction(item.caption), name);
-        action->setCheckable(item.checkable);
-        connect(action, &QAction::triggered, this, [this, command = item.command](bool on) {
-            activatingPress_.ForgetClip();
-            command(on);
-        });
-    }
+    ui::AddItems(menu, items, [this] { activatingPress_.ForgetClip(); });
 }
 
 void Gform::AddFileMenu()
