@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "ThinPlateSpline.h"
+#include "map/Pixel.h"
 #include "map/UtmSheet.h"
 #include "map/blend/ForwardBlend.h"
-#include "map/blend/MapMath.h"
 
 namespace bench {
 
@@ -21,7 +21,7 @@ struct Deviation {
 
     void Add(map::Pixel found, map::Pixel expected)
     {
-        const double off = map::Hypot(found.x - expected.x, found.y - expected.y);
+        const double off = map::Distance(found, expected);
         worst = std::max(worst, off);
         squares += off * off;
         count += 1.0;

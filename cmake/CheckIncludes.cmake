@@ -26,6 +26,28 @@ foreach(folder base geo stations map plot app)
     endforeach()
 endforeach()
 
+# Only map/ includes map/blend/, and of it the one header that it offers; the blend knows the two
+# plain values of map/ only.
+file(GLOB_RECURSE sources "${SOURCE_DIR}/src/*.h" "${SOURCE_DIR}/src/*.cpp")
+foreach(source ${sources})
+    if(source MATCHES "/src/map/blend/")
+        set(wrong "\"map/[A-Z]")
+        set(right "\"map/(Pixel|ReferencePoint)\\.h\"")
+    elseif(source MATCHES "/src/map/")
+        set(wrong "\"map/blend/")
+        set(right "\"map/blend/Blend\\.h\"")
+    else()
+        set(wrong "\"map/blend/")
+        set(right "^$")
+    endif()
+    file(STRINGS "${source}" includes REGEX "^ *# *include")
+    foreach(line ${includes})
+        if(line MATCHES "${wrong}" AND NOT line MATCHES "${right}")
+            string(APPEND violations "\n  ${source}: ${line}")
+        endif()
+    endforeach()
+endforeach()
+
 # The two window folders never include each other; they meet in main.cpp.
 foreach(pair "main;map" "map;main")
     list(GET pair 0 folder)

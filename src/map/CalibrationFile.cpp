@@ -10,7 +10,6 @@
 #include "base/CodePage.h"
 #include "base/NumberText.h"
 #include "base/Rounding.h"
-#include "map/blend/MapMath.h"
 
 namespace map {
 
@@ -215,8 +214,8 @@ std::vector<ReferencePoint> ReferencesFromInf(const InfBounds& bounds, ImageSize
             entries.push_back(
                 {.X = static_cast<double>(x),
                  .Y = static_cast<double>(y),
-                 .Longitude = bounds.firstLongitude + SafeDivide(longitudes * x, size.width),
-                 .Latitude = bounds.firstLatitude + SafeDivide(latitudes * y, size.height)});
+                 .Longitude = bounds.firstLongitude + longitudes * x / std::max(size.width, 1),
+                 .Latitude = bounds.firstLatitude + latitudes * y / std::max(size.height, 1)});
         }
     }
     entries.emplace_back();

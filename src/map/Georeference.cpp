@@ -1,6 +1,6 @@
 #include "map/Georeference.h"
 
-#include "map/blend/MapMath.h"
+#include <cmath>
 
 namespace map {
 
@@ -12,10 +12,10 @@ constexpr int kMostRounds = 1001;
 // The thresholds differ on purpose: an x between 32767 and 32768 stays as it is, a y does not.
 Pixel Limited(Pixel pixel)
 {
-    if (Abs(pixel.x) > 32768.0) {
+    if (std::fabs(pixel.x) > 32768.0) {
         pixel.x = pixel.x > 0.0 ? 32767.0 : -32768.0;
     }
-    if (Abs(pixel.y) > 32767.0) {
+    if (std::fabs(pixel.y) > 32767.0) {
         pixel.y = pixel.y > 0.0 ? 32767.0 : -32768.0;
     }
     return pixel;
@@ -63,8 +63,7 @@ public:
 private:
     double ErrorAt(geo::GeoPosition position) const
     {
-        const Pixel pixel = GeoToPixel(table_, position);
-        return Hypot(pixel.x - target_.x, pixel.y - target_.y);
+        return Distance(GeoToPixel(table_, position), target_);
     }
 
     const ReferenceTable& table_;

@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include <cmath>
+
 namespace map {
 
 // Pixels from the left and from the upper edge of the image; fractions count.
@@ -11,5 +13,10 @@ struct Pixel {
 
     bool operator==(const Pixel&) const = default;
 };
+
+inline double Distance(Pixel a, Pixel b)
+{
+    return std::sqrt((a.x - b.x) * (a.x - b.x) + (a.y - b.y) * (a.y - b.y));
+}
 
 }  // namespace map

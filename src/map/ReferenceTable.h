@@ -8,8 +8,7 @@
 
 #include "geo/GeoPosition.h"
 #include "map/ReferencePoint.h"
-#include "map/blend/ForwardBlend.h"
-#include "map/blend/InverseBlend.h"
+#include "map/blend/Blend.h"
 
 namespace map {
 

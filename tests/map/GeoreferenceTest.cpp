@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include "map/SampleMaps.h"
-#include "map/blend/MapMath.h"
 #include "map/blend/TriangleBlend.h"
 
 namespace map {
@@ -122,7 +121,7 @@ TEST(PixelToGeo, IsTheEstimateWithoutRefinement)
         const FoundPosition found = PixelToGeo(table, 250, 300, kClickTolerance, Refinement::Off);
         EXPECT_EQ(found.position, PixelToGeoEstimate(table, 250, 300));
         const Pixel drawn = GeoToPixel(table, found.position);
-        EXPECT_EQ(found.error, Hypot(drawn.x - 250.0, drawn.y - 300.0));
+        EXPECT_EQ(found.error, Distance(drawn, {250.0, 300.0}));
     }
 }
 
@@ -132,7 +131,7 @@ FoundPosition SearchedAtLength(const ReferenceTable& table, Pixel target, double
     geo::GeoPosition at = table.Inverse().At(target);
     const auto errorOf = [&](geo::GeoPosition position) {
         const Pixel pixel = GeoToPixel(table, position);
-        return Hypot(pixel.x - target.x, pixel.y - target.y);
+        return Distance(pixel, target);
     };
     double best = errorOf(at);
     double step = 0.1;

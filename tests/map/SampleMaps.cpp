@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <cstdlib>
 
 #include "base/Rounding.h"
 
@@ -81,6 +82,11 @@ int TableSize(int table)
     // Each of the 48 sizes once in 288 tables; the other 240 are small.
     const int turn = table % 288;
     return turn % 6 == 0 ? 3 + turn / 6 : 3 + turn % 11;
+}
+
+int SheetTables()
+{
+    return std::getenv("KOMPASSO_ALL_SHEETS") != nullptr ? 10000 : 1000;
 }
 
 geo::GeoPosition PositionInside(Random& random, const SampleMap& map)

@@ -28,6 +28,10 @@ SampleMap ScannedSheet(Random& random, int count);
 // more often, because the step-by-step form takes the cube of the size.
 int TableSize(int table);
 
+// How many tables the sheet comparisons go through: 1000, ten times as many when the environment
+// variable KOMPASSO_ALL_SHEETS is set.
+int SheetTables();
+
 // A position in the rectangle around the reference points, and one there or up to half its extent
 // outside.
 geo::GeoPosition PositionInside(Random& random, const SampleMap& map);

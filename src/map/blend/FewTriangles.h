@@ -1,10 +1,12 @@
-// The blend of a handful of triangles, each evaluated on its own: exact where a fit over all points
-// is not, and as fast up to four.
+// The blend of three or four points, triangle by triangle: where so few are, sums over all of them
+// are neither exact nor fast enough (docs/map-model.md, "Three and four points").
 
 #pragma once
 
 #include <array>
 #include <cstddef>
+#include <span>
+#include <vector>
 
 #include "map/Pixel.h"
 #include "map/ReferencePoint.h"
@@ -14,36 +16,36 @@ namespace map {
 
 class FewTriangles {
 public:
-    static constexpr std::size_t kMost = 4;
+    static constexpr std::size_t kMostPoints = 4;
 
-    void Clear();
-    bool Empty() const { return size_ == 0; }
+    // Takes all triangles that are not exactly collinear.
+    void Prepare(std::span<const ReferencePoint> points);
 
-    // Adds the triangle of three points that are not collinear; at most kMost times.
-    void Add(const ReferencePoint& a, const ReferencePoint& b, const ReferencePoint& c);
-
-    // Pixel of a position in degrees; 0/0 when there is no triangle or every rotation is left out.
-    Pixel At(PlanePoint p) const;
+    // Pixels of positions in degrees; 0/0 when every rotation is left out. For one and kManySides.
+    template <std::size_t kSide>
+    void At(const std::array<PlanePoint, kSide>& places, std::span<Pixel, kSide> pixels) const;
 
 private:
-    // A number of each triangle, 0 for those that there are not.
-    using Row = std::array<double, kMost>;
-
     // A corner and the side opposite to it.
     struct Corner {
-        Row x, y;
-        Row baseX, baseY;
+        PlanePoint place;
+        PlanePoint base;
     };
 
-    double LeftOut(std::size_t triangle, PlanePoint p) const;
+    struct Affine {
+        std::array<Corner, 3> corners = {};
+        double rotations;  // that no vertical base rules out
+        double areaSquared;
+        double x, y;    // pixel of the first corner
+        double xx, xy;  // change of its x per degree of longitude, of latitude
+        double yx, yy;
+    };
 
-    std::size_t size_ = 0;
-    std::array<Corner, 3> corners_ = {};
-    Row rotations_ = {};  // that no vertical base rules out
-    Row areaSquared_ = {};
-    Row x_ = {}, y_ = {};    // pixel of the first corner
-    Row xx_ = {}, xy_ = {};  // change of its x per degree of longitude, of latitude
-    Row yx_ = {}, yy_ = {};
+    static double LeftOut(const Affine& triangle, PlanePoint p);
+
+    void Add(const ReferencePoint& a, const ReferencePoint& b, const ReferencePoint& c);
+
+    std::vector<Affine> triangles_;
 };
 
 }  // namespace map

@@ -1,15 +1,11 @@
 // The map model from the earth to the image, prepared once per reference table.
 //
 // Gives what TriangleBlendToPixel gives, at a cost that grows with the number of points instead of
-// its cube. Three rotations of every triangle come from Moments; taken off again are
-//   - the rotations over bases of equal longitude, column by column,
-//   - the few triangles that count as collinear and yet have an area that matters,
-//   - the rotations whose line CP is exactly parallel to the base, as ParallelBases finds them.
-// Where the points nearly lie in a line as seen from P, the sums are made again by elimination in
-// extended precision. Up to four triangles are simply evaluated one by one.
+// its cube: docs/map-model.md.
 
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <span>
 #include <vector>
@@ -17,17 +13,13 @@
 #include "geo/GeoPosition.h"
 #include "map/Pixel.h"
 #include "map/ReferencePoint.h"
+#include "map/blend/Elimination.h"
 #include "map/blend/FewTriangles.h"
-#include "map/blend/PackedColumns.h"
+#include "map/blend/ForwardSums.h"
 #include "map/blend/ParallelBases.h"
 #include "map/blend/PlanePoint.h"
-#include "map/blend/TriangleSurvey.h"
 
 namespace map {
-
-struct PreparedPoints;
-template <typename V>
-struct WeightedPixel;
 
 class ForwardBlend {
 public:
@@ -43,34 +35,35 @@ public:
     void At(std::span<const geo::GeoPosition> positions, std::span<Pixel> pixels) const;
 
     // False when there is no usable triangle.
-    bool Usable() const { return !points_.empty() || !few_.Empty(); }
+    bool Usable() const { return usable_; }
 
 private:
-    void TakePoints(std::span<const ReferencePoint> points);
-    void PrepareMoments();
-    void PrepareFewTriangles();
+    template <std::size_t kSide>
+    using Scratch = std::vector<SeenPoint<kSide>>;
 
-    PreparedPoints Prepared() const;
-    Pixel ByMoments(PlanePoint p) const;
-    void SubtractParallel(WeightedPixel<double>& sum, PlanePoint p, std::size_t c) const;
-    void SubtractTriangle(WeightedPixel<double>& sum, PlanePoint p, const Triangle& triangle,
-                          double rotations) const;
+    template <std::size_t kSide>
+    void Find(std::span<const geo::GeoPosition, kSide> positions, std::span<Pixel, kSide> pixels,
+              Scratch<kSide>& seen) const;
+    template <std::size_t kSide>
+    void FindBySums(const std::array<PlanePoint, kSide>& places, std::span<Pixel, kSide> pixels,
+                    Scratch<kSide>& seen) const;
+    void SubtractParallel(WeightedPixel& sum, PlanePoint p, std::size_t c) const;
+    static void SubtractRotation(WeightedPixel& sum, PlanePoint p, const ReferencePoint& a,
+                                 const ReferencePoint& b, const ReferencePoint& c);
 
-    // Points in use, by longitude, and their places.
+    // By longitude, with their places.
     std::vector<ReferencePoint> points_;
     std::vector<PlanePoint> places_;
 
     std::vector<Column> columns_;
-
-    // The same once more, laid out for one position and for a pack of them.
-    std::vector<PointPack> packs_;
-    std::vector<PackedColumns> packedColumns_;
-    std::vector<PointPack> spread_;
-
-    std::vector<Triangle> collinear_;
     ParallelBases bases_;
-    Extent extent_;
-    FewTriangles few_;  // instead of all these, when there are not more
+    Elimination elimination_;
+    FewTriangles few_;  // instead of these three, when there are not more
+    bool usable_ = false;
+
+    // Kept because making them anew would cost as much as the sums.
+    mutable Scratch<1> seenByOne_;
+    mutable Scratch<kManySides> seenByMany_;
 };
 
 }  // namespace map

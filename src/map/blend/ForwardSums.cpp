@@ -1,230 +1,156 @@
 #include "map/blend/ForwardSums.h"
 
-#include <cstring>
-#include <limits>
+#include "map/blend/ParallelBases.h"
 
 namespace map {
 
 namespace {
 
-static_assert(PointPack::kSide == kLanes);
+// A smaller part of the determinant left by cancellation, and rounding could reach a millionth of a
+// pixel.
+constexpr double kLeastSpread = 1e-3;
 
-// A position beyond the extent is summed from the middle of the table.
-template <typename V>
-[[gnu::always_inline]] inline Viewpoint<V> View(const Extent& extent, const V& x, const V& y)
-{
-    const V offX = x - extent.middle.x;
-    const V offY = y - extent.middle.y;
-    const auto isFar =
-        (offX > extent.far) | (offX < -extent.far) | (offY > extent.far) | (offY < -extent.far);
-    return {.x = x, .y = y, .fromOriginX = isFar ? offX : V{}, .fromOriginY = isFar ? offY : V{}};
-}
+// Sums over the points of the weight times the named product of places from the position.
+template <std::size_t kSide>
+struct Moments {
+    Row<kSide> one = {}, x = {}, y = {}, xx = {}, xy = {}, yy = {};
+};
 
-[[gnu::always_inline]] inline LaneMask IsFinite(const Lanes& v)
-{
-    const Lanes most = Spread(std::numeric_limits<double>::max());
-    return (v >= -most) & (v <= most);
-}
+// The share of a point in the result, by its place from the position, is its weight times
+// one + x dx + y dy.
+template <std::size_t kSide>
+struct Factors {
+    Row<kSide> one = {}, x = {}, y = {};
+};
 
-// Coordinates beyond kFarthestPoint count as if they were there.
-[[gnu::always_inline]] inline Lanes Clamped(const Lanes& v)
-{
-    const Lanes most = Spread(kFarthestPoint);
-    return v > most ? most : (v < -most ? -most : v);
-}
+template <std::size_t kSide>
+struct PixelSums {
+    Row<kSide> weight = {}, x = {}, y = {};
 
-[[gnu::always_inline]] inline Moments<double> TotalOf(const Moments<Lanes>& m)
-{
-    return {SumOf(m.one), SumOf(m.x), SumOf(m.y),  SumOf(m.xx), SumOf(m.xy), SumOf(m.yy),
-            SumOf(m.u),   SumOf(m.v), SumOf(m.xu), SumOf(m.yu), SumOf(m.xv), SumOf(m.yv)};
-}
-
-[[gnu::always_inline]] inline Moments<Lanes> SpreadOf(const Moments<double>& m)
-{
-    return {Spread(m.one), Spread(m.x), Spread(m.y),  Spread(m.xx), Spread(m.xy), Spread(m.yy),
-            Spread(m.u),   Spread(m.v), Spread(m.xu), Spread(m.yu), Spread(m.xv), Spread(m.yv)};
-}
-
-// Whether a base may have one of four directions.
-[[gnu::always_inline]] inline bool AnyPerhaps(const DirectionFilter& filter,
-                                              const std::int32_t* step)
-{
-    const std::uint32_t any = filter.Perhaps(step[0]) | filter.Perhaps(step[1])
-                              | filter.Perhaps(step[2]) | filter.Perhaps(step[3]);
-    return (any & 1U) != 0;
-}
-
-// The directions in which the lanes of each pack are seen. Tables too large for this ring have no
-// bases to look for.
-struct Directions {
-    static constexpr std::size_t kPacks = 256;
-    static_assert(kPacks >= kExactPoints);
-
-    std::array<std::int32_t, kPacks * kLanes> steps;
-
-    [[gnu::always_inline]] void Put(std::size_t pack, const Lanes& cosine2)
+    void Add(const SeenPoint<kSide>& seen, const Factors<kSide>& factors, const Row<kSide>& pX,
+             const Row<kSide>& pY, const ReferencePoint& point)
     {
-        const LaneIndices step =
-            __builtin_convertvector(cosine2 * DirectionFilter::kScale, LaneIndices);
-        std::memcpy(&steps[pack % kPacks * kLanes], &step, sizeof(step));
+        for (std::size_t i = 0; i < kSide; ++i) {
+            const double share = seen.weight[i]
+                                 * (factors.one[i] + factors.x[i] * (point.Longitude - pX[i])
+                                    + factors.y[i] * (point.Latitude - pY[i]));
+            x[i] += share * point.X;
+            y[i] += share * point.Y;
+        }
     }
 };
 
-// Sums over packs, lane by lane.
-template <Origin origin>
-[[gnu::always_inline]] inline Moments<Lanes>
-SumPacks(Directions& directions, std::span<const PointPack> packs, const Viewpoint<Lanes>& p)
+template <std::size_t kSide>
+Moments<kSide> See(std::span<const ReferencePoint> points, const Row<kSide>& pX,
+                   const Row<kSide>& pY, std::span<SeenPoint<kSide>> seen)
 {
-    Moments<Lanes> moments;
-    for (std::size_t i = 0; i < packs.size(); ++i) {
-        const PointPack& pack = packs[i];
-        directions.Put(i, moments.Add<origin>(p, Load(pack.longitude), Load(pack.latitude),
-                                              Load(pack.x), Load(pack.y)));
-    }
-    return moments;
-}
-
-[[gnu::always_inline]] inline Moments<Lanes>
-SumPacks(Directions& directions, std::span<const PointPack> packs, const Viewpoint<Lanes>& p)
-{
-    return Any((p.fromOriginX != 0.0) | (p.fromOriginY != 0.0))
-               ? SumPacks<Origin::AtMiddle>(directions, packs, p)
-               : SumPacks<Origin::AtP>(directions, packs, p);
-}
-
-// Calls visit(pack, lane) for each direction that a base may have. Apart from the sums, because a
-// call among them would drive them from the registers.
-template <typename Visit>
-[[gnu::always_inline]] inline void ForEachPossible(const Directions& directions,
-                                                   const ParallelBases& bases, std::size_t packs,
-                                                   Visit visit)
-{
-    if (bases.All().empty()) {
-        return;
-    }
-    const DirectionFilter filter = bases.Filter();
-    for (std::size_t i = 0; i < packs; ++i) {
-        const std::int32_t* const step = &directions.steps[i * kLanes];
-        if (!AnyPerhaps(filter, step)) {
-            continue;
-        }
-        for (std::size_t lane = 0; lane < kLanes; ++lane) {
-            if (filter.Possible(step[lane])) {
-                visit(i, lane);
-            }
+    Moments<kSide> m;
+    for (std::size_t point = 0; point < points.size(); ++point) {
+        const double pointX = points[point].Longitude;
+        const double pointY = points[point].Latitude;
+        SeenPoint<kSide>& s = seen[point];
+        for (std::size_t i = 0; i < kSide; ++i) {
+            const double dx = pointX - pX[i];
+            const double dy = pointY - pY[i];
+            const double weight = PointWeight(dx, dy);
+            const double x = weight * dx;
+            const double y = weight * dy;
+            const double xx = x * dx;
+            m.one[i] += weight;
+            m.x[i] += x;
+            m.y[i] += y;
+            m.xx[i] += xx;
+            m.xy[i] += x * dy;
+            m.yy[i] += y * dy;
+            s.weight[i] = weight;
+            s.step[i] = static_cast<std::int32_t>(xx * DirectionFilter::kScale);
         }
     }
+    return m;
 }
 
-// Three times `once`, which holds one rotation of each triangle, without the rotations over the
-// bases of columns.
-[[gnu::always_inline]] inline WeightedPixel<double>
-WithoutColumns(const WeightedPixel<double>& once, std::span<const PackedColumns> columns,
-               const Moments<double>& all, const Viewpoint<Lanes>& p)
+// Takes off the rotations over the bases of one column: from `factors` what concerns any apex, from
+// `sums` what concerns the points of the column.
+template <std::size_t kSide>
+void TakeOff(std::span<const ReferencePoint> column, std::span<const SeenPoint<kSide>> seen,
+             const Row<kSide>& pX, const Row<kSide>& pY, const Moments<kSide>& m,
+             Factors<kSide>& factors, PixelSums<kSide>& sums)
 {
-    WeightedPixel<double> sum = {3.0 * once.weight, 3.0 * once.x, 3.0 * once.y};
-    for (const PackedColumns& pack : columns) {
-        ColumnMoments<Lanes> column;
-        for (const PointPack& row : pack.rows) {
-            const Lanes dy = Load(row.latitude) - p.y;
-            column.Add(PointWeight<Lanes>(Load(row.longitude) - p.x, dy), dy + p.fromOriginY,
-                       Load(row.x), Load(row.y));
+    Row<kSide> one = {};
+    Row<kSide> y = {};
+    Row<kSide> yy = {};
+    for (std::size_t point = 0; point < column.size(); ++point) {
+        for (std::size_t i = 0; i < kSide; ++i) {
+            one[i] += seen[point].weight[i];
+            const double dy = column[point].Latitude - pY[i];
+            y[i] += seen[point].weight[i] * dy;
+            yy[i] += seen[point].weight[i] * dy * dy;
         }
-        const Lanes x = (Load(pack.rows.front().longitude) - p.x) + p.fromOriginX;
-        const WeightedPixel<Lanes> share =
-            column.Share(ApexesOf(SpreadOf(all), x), p.fromOriginX - x, p.fromOriginY);
-        sum.weight -= SumOf(share.weight);
-        sum.x -= SumOf(share.x);
-        sum.y -= SumOf(share.y);
     }
-    return sum;
-}
-
-// The same for a pack of positions.
-[[gnu::always_inline]] inline WeightedPixel<Lanes> WithoutColumns(const WeightedPixel<Lanes>& once,
-                                                                  std::span<const PointPack> points,
-                                                                  std::span<const Column> columns,
-                                                                  const Moments<Lanes>& all,
-                                                                  const Viewpoint<Lanes>& p)
-{
-    WeightedPixel<Lanes> sum = {3.0 * once.weight, 3.0 * once.x, 3.0 * once.y};
-    for (const Column& column : columns) {
-        ColumnMoments<Lanes> moments;
-        const Lanes dx = Load(points[column.begin].longitude) - p.x;
-        for (std::size_t i = column.begin; i < column.end; ++i) {
-            const Lanes dy = Load(points[i].latitude) - p.y;
-            moments.Add(PointWeight(dx, dy), dy + p.fromOriginY, Load(points[i].x),
-                        Load(points[i].y));
-        }
-        const Lanes x = dx + p.fromOriginX;
-        const WeightedPixel<Lanes> share =
-            moments.Share(ApexesOf(all, x), p.fromOriginX - x, p.fromOriginY);
-        sum.weight -= share.weight;
-        sum.x -= share.x;
-        sum.y -= share.y;
+    Factors<kSide> own;
+    for (std::size_t i = 0; i < kSide; ++i) {
+        const double x = column.front().Longitude - pX[i];
+        const double pairs = one[i] * yy[i] - y[i] * y[i];
+        factors.one[i] -= pairs * x * x;
+        factors.x[i] += pairs * x;
+        // Over the apexes.
+        const double dx = m.xx[i] - x * m.x[i];
+        const double dy = m.xy[i] - x * m.y[i];
+        sums.weight[i] -= pairs * (dx - x * (m.x[i] - x * m.one[i]));
+        own.one[i] = x * y[i] * dy - yy[i] * dx;
+        own.y[i] = y[i] * dx - x * one[i] * dy;
     }
-    return sum;
+    for (std::size_t point = 0; point < column.size(); ++point) {
+        sums.Add(seen[point], own, pX, pY, column[point]);
+    }
 }
 
 }  // namespace
 
-KOMPASSO_WIDE PointSums SumPoints(const PreparedPoints& table, PlanePoint p)
+template <std::size_t kSide>
+ForwardSums<kSide> SumUp(std::span<const ReferencePoint> points, std::span<const Column> columns,
+                         const std::array<PlanePoint, kSide>& positions,
+                         std::span<SeenPoint<kSide>> seen)
 {
-    const Viewpoint<double> one = View(table.extent, p.x, p.y);
-    const Viewpoint<Lanes> view = {Spread(one.x), Spread(one.y), Spread(one.fromOriginX),
-                                   Spread(one.fromOriginY)};
-    Directions directions;
-    const Moments<double> moments = TotalOf(SumPacks(directions, table.packs, view));
-    const Fit<double> fit = FitOf(moments, one);
-    PointSums result;
-    result.sum = WithoutColumns(fit.sum, table.packedColumns, moments, view);
-    result.exact = fit.margin > 0.0;
-    result.count = 0;
-    ForEachPossible(directions, table.bases, table.packs.size(),
-                    [&](std::size_t pack, std::size_t lane) {
-                        const std::size_t point = pack * kLanes + lane;
-                        if (point < table.spread.size()) {  // no filler
-                            result.inLine[result.count++] = static_cast<std::uint16_t>(point);
-                        }
-                    });
+    Row<kSide> pX;
+    Row<kSide> pY;
+    for (std::size_t i = 0; i < kSide; ++i) {
+        pX[i] = positions[i].x;
+        pY[i] = positions[i].y;
+    }
+    const Moments<kSide> m = See(points, pX, pY, seen);
+    ForwardSums<kSide> result;
+    Factors<kSide> factors;
+    PixelSums<kSide> sums;
+    for (std::size_t i = 0; i < kSide; ++i) {
+        const double one = m.xx[i] * m.yy[i] - m.xy[i] * m.xy[i];
+        const double x = m.y[i] * m.xy[i] - m.x[i] * m.yy[i];
+        const double y = m.x[i] * m.xy[i] - m.y[i] * m.xx[i];
+        const double determinant = one * m.one[i] + x * m.x[i] + y * m.y[i];
+        result.exact[i] = determinant > kLeastSpread * (m.one[i] * m.xx[i] * m.yy[i]);
+        sums.weight[i] = 3.0 * determinant;
+        factors.one[i] = 3.0 * one;
+        factors.x[i] = 3.0 * x;
+        factors.y[i] = 3.0 * y;
+    }
+    for (const Column& column : columns) {
+        const std::size_t length = column.end - column.begin;
+        TakeOff<kSide>(points.subspan(column.begin, length), seen.subspan(column.begin, length), pX,
+                       pY, m, factors, sums);
+    }
+    for (std::size_t point = 0; point < points.size(); ++point) {
+        sums.Add(seen[point], factors, pX, pY, points[point]);
+    }
+    for (std::size_t i = 0; i < kSide; ++i) {
+        result.sum[i] = {.weight = sums.weight[i], .x = sums.x[i], .y = sums.y[i]};
+    }
     return result;
 }
 
-KOMPASSO_WIDE PackOfPixels FitPlaces(const PreparedPoints& table,
-                                     std::span<const geo::GeoPosition, kLanes> positions)
-{
-    Lanes x;
-    Lanes y;
-    for (std::size_t lane = 0; lane < kLanes; ++lane) {
-        x[lane] = positions[lane].longitude;
-        y[lane] = positions[lane].latitude;
-    }
-    const LaneMask finite = IsFinite(x) & IsFinite(y);
-    x = finite ? Clamped(x) : Lanes{};
-    y = finite ? Clamped(y) : Lanes{};
-    const Viewpoint<Lanes> view = View(table.extent, x, y);
-    Directions directions;
-    const Moments<Lanes> moments = SumPacks(directions, table.spread, view);
-    const Fit<Lanes> fit = FitOf(moments, view);
-    const WeightedPixel<Lanes> sum =
-        WithoutColumns(fit.sum, table.spread, table.columns, moments, view);
-    const Lanes pixelX = sum.x / sum.weight;
-    const Lanes pixelY = sum.y / sum.weight;
-    const LaneMask usable = finite & (fit.margin > 0.0) & (sum.weight != 0.0);
-    PackOfPixels pack;
-    for (std::size_t lane = 0; lane < kLanes; ++lane) {
-        pack.pixels[lane] = {.x = pixelX[lane], .y = pixelY[lane]};
-        pack.done[lane] = usable[lane] != 0;
-    }
-    ForEachPossible(directions, table.bases, table.spread.size(),
-                    [&](std::size_t point, std::size_t lane) {
-                        const Lanes dx = x - Load(table.spread[point].longitude);
-                        const Lanes dy = y - Load(table.spread[point].latitude);
-                        if (table.bases.HasNear(dx[lane], dy[lane])) {
-                            pack.done[lane] = false;
-                        }
-                    });
-    return pack;
-}
+template ForwardSums<1> SumUp(std::span<const ReferencePoint>, std::span<const Column>,
+                              const std::array<PlanePoint, 1>&, std::span<SeenPoint<1>>);
+template ForwardSums<kManySides> SumUp(std::span<const ReferencePoint>, std::span<const Column>,
+                                       const std::array<PlanePoint, kManySides>&,
+                                       std::span<SeenPoint<kManySides>>);
 
 }  // namespace map

@@ -1,5 +1,5 @@
-// The sums of ForwardBlend over all reference points: for one position, a pack of points at a time,
-// and for a pack of positions, point by point.
+// All rotations but those over columns, summed up without visiting any triangle, for several
+// positions side by side: docs/map-model.md, "The sums".
 
 #pragma once
 
@@ -8,45 +8,35 @@
 #include <cstdint>
 #include <span>
 
-#include "geo/GeoPosition.h"
-#include "map/Pixel.h"
-#include "map/blend/Lanes.h"
-#include "map/blend/Moments.h"
-#include "map/blend/PackedColumns.h"
-#include "map/blend/ParallelBases.h"
+#include "map/ReferencePoint.h"
 #include "map/blend/PlanePoint.h"
+#include "map/blend/Weights.h"
 
 namespace map {
 
-// A prepared table, laid out for one position and for a pack of them. Points by longitude.
-struct PreparedPoints {
-    std::span<const PointPack> packs;  // four points to a pack
-    std::span<const PackedColumns> packedColumns;
-    std::span<const PointPack> spread;  // each point in a pack of its own
-    std::span<const Column> columns;    // of `spread`
-    const ParallelBases& bases;
-    const Extent& extent;
+// Positions side by side.
+template <std::size_t kSide>
+using Row = std::array<double, kSide>;
+
+// A reference point as seen from each position.
+template <std::size_t kSide>
+struct SeenPoint {
+    Row<kSide> weight;
+    std::array<std::int32_t, kSide> step;  // direction, as DirectionFilter takes it
 };
 
-// All rotations as seen from one position but those over columns, with the points that may be seen
-// along a base still in.
-struct PointSums {
-    WeightedPixel<double> sum;
-    bool exact;         // false when the points nearly lie in a line, and the sum is useless
-    std::size_t count;  // of the following
-    std::array<std::uint16_t, kExactPoints> inLine;  // points that may be seen along a base
+template <std::size_t kSide>
+struct ForwardSums {
+    std::array<WeightedPixel, kSide> sum;
+    std::array<bool, kSide> exact;  // false when the points nearly lie in a line or far away
 };
 
-PointSums SumPoints(const PreparedPoints& table, PlanePoint p);
+// `seen` is overwritten; it must hold as many as there are points. Compiled for 1 and kManySides.
+template <std::size_t kSide>
+ForwardSums<kSide> SumUp(std::span<const ReferencePoint> points, std::span<const Column> columns,
+                         const std::array<PlanePoint, kSide>& positions,
+                         std::span<SeenPoint<kSide>> seen);
 
-// The pixels of a pack of positions, and whether each is final. One that is not has to be computed
-// by itself: it is not finite, a point is seen along a base, or the points nearly lie in a line.
-struct PackOfPixels {
-    std::array<Pixel, kLanes> pixels;
-    std::array<bool, kLanes> done;
-};
-
-PackOfPixels FitPlaces(const PreparedPoints& table,
-                       std::span<const geo::GeoPosition, kLanes> positions);
+inline constexpr std::size_t kManySides = 16;
 
 }  // namespace map

@@ -2,7 +2,8 @@
 
 #include <algorithm>
 
-#include "map/blend/Moments.h"
+#include "map/blend/HasTriangle.h"
+#include "map/blend/Weights.h"
 
 namespace map {
 
@@ -20,23 +21,29 @@ void InverseBlend::Prepare(std::span<const ReferencePoint> points)
         }
     }
     bases_.Prepare(places_);
-    if (places_.size() <= kExactPoints) {
-        ForEachTriangle(places_, [this](const Triangle& t, const Shape& shape) {
-            if (!shape.collinear) {
-                AddTriangle(t, shape.cross);
-            }
-        });
-    } else if (SurveyTriangles(places_).usable > 0) {
+    if (!HasTriangle(places_)) {
+        return;
+    }
+    if (places_.size() > kExactPoints) {
         AddAllTriangles();
         rotations_ = vertices_.size();
+        return;
+    }
+    for (std::size_t i = 0; i < vertices_.size(); ++i) {
+        for (std::size_t j = i + 1; j < vertices_.size(); ++j) {
+            for (std::size_t k = j + 1; k < vertices_.size(); ++k) {
+                AddTriangle(vertices_[i], vertices_[j], vertices_[k]);
+            }
+        }
     }
 }
 
-void InverseBlend::AddTriangle(const Triangle& t, double cross)
+void InverseBlend::AddTriangle(Vertex& i, Vertex& j, Vertex& k)
 {
-    Vertex& i = vertices_[t.i];
-    Vertex& j = vertices_[t.j];
-    Vertex& k = vertices_[t.k];
+    const double cross = Cross(i.place, j.place, k.place);
+    if (cross == 0.0) {
+        return;
+    }
     const PlanePoint ij = {.x = j.place.x - i.place.x, .y = j.place.y - i.place.y};
     const PlanePoint ik = {.x = k.place.x - i.place.x, .y = k.place.y - i.place.y};
     const double jLongitude = j.longitude - i.longitude;
@@ -155,7 +162,8 @@ void InverseBlend::SubtractParallel(Sum& sum, PlanePoint p, std::size_t apex) co
         return;
     }
     for (const auto& base : bases_.Near(p.x - c.x, p.y - c.y)) {
-        if (ExactlyParallel(p, c, places_[base.a], places_[base.b])) {
+        if (Cross(places_[base.a], places_[base.b], c) != 0.0
+            && ExactlyParallel(p, c, places_[base.a], places_[base.b])) {
             Subtract(sum, p, base.a, base.b, apex);
         }
     }
@@ -164,14 +172,11 @@ void InverseBlend::SubtractParallel(Sum& sum, PlanePoint p, std::size_t apex) co
 void InverseBlend::Subtract(Sum& sum, PlanePoint p, std::size_t a, std::size_t b,
                             std::size_t apex) const
 {
-    if (a == apex || b == apex) {
-        return;
-    }
     const Vertex& va = vertices_[a];
     const Vertex& vb = vertices_[b];
     const Vertex& vc = vertices_[apex];
-    const auto [cross, longest2, collinear] = ShapeOf(va.place, vb.place, vc.place);
-    if (collinear) {
+    const double cross = Cross(va.place, vb.place, vc.place);
+    if (cross == 0.0) {
         return;
     }
     // With a < b, the cyclic order of the three begins the base at b only around an apex between.

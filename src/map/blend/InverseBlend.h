@@ -17,7 +17,6 @@
 #include "map/ReferencePoint.h"
 #include "map/blend/ParallelBases.h"
 #include "map/blend/PlanePoint.h"
-#include "map/blend/TriangleSurvey.h"
 
 namespace map {
 
@@ -52,7 +51,7 @@ private:
         std::size_t leftOut = 0;  // rotations taken off
     };
 
-    void AddTriangle(const Triangle& triangle, double cross);
+    void AddTriangle(Vertex& i, Vertex& j, Vertex& k);
     void AddAllTriangles();
     void SubtractParallel(Sum& sum, PlanePoint p, std::size_t apex) const;
     void Subtract(Sum& sum, PlanePoint p, std::size_t a, std::size_t b, std::size_t apex) const;

@@ -5,8 +5,6 @@
 #include <cmath>
 #include <cstddef>
 
-#include "map/blend/MapMath.h"
-
 namespace map {
 
 struct PlanePoint {
@@ -14,9 +12,9 @@ struct PlanePoint {
     double y = 0.0;
 };
 
-// Tables up to this size are treated triangle by triangle where that matters: collinear triples
-// and rotations that are left out are found one by one. Beyond it the work of a change would grow
-// past what a user waits for, while one triangle weighs less than a millionth of the whole.
+// Tables up to this size are treated triangle by triangle where that matters: rotations that are
+// left out are found one by one. Beyond it the work of a change would grow past what a user waits
+// for, while one triangle weighs less than a millionth of the whole.
 inline constexpr std::size_t kExactPoints = 200;
 
 // A point beyond this is no place on an image or the earth; it takes no part in a conversion.
@@ -26,12 +24,6 @@ inline bool InRange(PlanePoint p)
 {
     return std::fabs(p.x) <= kFarthestPoint && std::fabs(p.y) <= kFarthestPoint;
 }
-
-// Where a table lies: positions beyond `far` degrees from its middle are summed from there.
-struct Extent {
-    PlanePoint middle;
-    double far = 0.0;
-};
 
 // A run of points of equal x, in an order by x.
 struct Column {

@@ -6,6 +6,9 @@
 // the triangle's affine map at P, inside and outside of it; they differ in what is left out: a base
 // of equal longitudes (pixel columns), and a line CP parallel to the base.
 //
+// Its weight carries the squared area, so that exactly collinear points weigh nothing; a table
+// whose every triangle is thin (HasTriangle.h) counts as empty.
+//
 // The cost grows with the cube of the number of points. The program uses ForwardBlend and
 // InverseBlend, which give the same; this form is what they are tested against.
 

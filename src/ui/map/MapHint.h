@@ -3,12 +3,10 @@
 #pragma once
 
 #include <cstddef>
-#include <optional>
 #include <string>
 
 #include "app/AppState.h"
 #include "geo/GeoPosition.h"
-#include "map/ReferenceTable.h"
 #include "stations/StationRecord.h"
 
 namespace ui {
@@ -21,9 +19,5 @@ std::string StationHint(const app::AppState& state, const stations::StationRecor
 // Number of a reference point and by how many pixels the other points miss it: a wrongly placed
 // point stands out.
 std::string ReferenceHint(const app::AppState& state, std::size_t index);
-
-// Distance in pixels between a reference point and the place that the others alone give its
-// position; none when they give it no place.
-std::optional<double> MissedBy(const map::ReferenceTable& table, std::size_t index);
 
 }  // namespace ui

@@ -16,44 +16,44 @@ namespace map {
 namespace {
 
 // Infinite when only one of the two is a number, so that no comparison passes by NaN.
-double Distance(double a, double b)
+double Apart(double a, double b)
 {
     const double distance = std::fabs(a - b);
     return std::isnan(distance) ? std::numeric_limits<double>::infinity() : distance;
 }
 
 // Results are shown within the 16-bit range; two beyond it on the same side end at its limit.
-double ShownDistance(double a, double b)
+double ShownApart(double a, double b)
 {
     constexpr double kLimit = 32768.0;
     const bool equal = (a > kLimit && b > kLimit) || (a < -kLimit && b < -kLimit);
-    return equal ? 0.0 : Distance(a, b);
+    return equal ? 0.0 : Apart(a, b);
 }
 
-double Distance(Pixel a, Pixel b)
+double Apart(Pixel a, Pixel b)
 {
-    return std::max(ShownDistance(a.x, b.x), ShownDistance(a.y, b.y));
+    return std::max(ShownApart(a.x, b.x), ShownApart(a.y, b.y));
 }
 
-double Distance(geo::GeoPosition a, geo::GeoPosition b)
+double Apart(geo::GeoPosition a, geo::GeoPosition b)
 {
-    return std::max(Distance(a.latitude, b.latitude), Distance(a.longitude, b.longitude));
+    return std::max(Apart(a.latitude, b.latitude), Apart(a.longitude, b.longitude));
 }
 
 template <typename Result, typename Exact>
 testing::AssertionResult Agrees(Result prepared, Result literal, double bound, Exact exact)
 {
-    const double distance = Distance(prepared, literal);
+    const double distance = Apart(prepared, literal);
     if (distance <= bound) {
         return testing::AssertionSuccess();
     }
     const Result judge = exact();
-    if (Distance(literal, judge) > bound / 10.0 && Distance(prepared, judge) <= bound) {
+    if (Apart(literal, judge) > bound / 10.0 && Apart(prepared, judge) <= bound) {
         return testing::AssertionSuccess();
     }
-    return testing::AssertionFailure() << "prepared off the step-by-step form by " << distance
-                                       << ", off the exact result by " << Distance(prepared, judge)
-                                       << ", the step-by-step form by " << Distance(literal, judge);
+    return testing::AssertionFailure()
+           << "prepared off the step-by-step form by " << distance << ", off the exact result by "
+           << Apart(prepared, judge) << ", the step-by-step form by " << Apart(literal, judge);
 }
 
 }  // namespace

@@ -48,8 +48,9 @@ bool Counts(const Vertex& a, const Vertex& b, const Vertex& c, const Vertex& p)
 
 using Corners = std::array<Vertex, 3>;
 
-bool IsCollinear(const Corners& t, Quad cross)
+bool IsThin(const Corners& t)
 {
+    const Quad cross = Cross(t[0], t[1], t[2]);
     const Quad longest = std::max({Square(t[0], t[1]), Square(t[1], t[2]), Square(t[2], t[0])});
     return cross == 0 || cross * cross / 4 < Quad{1e-12} * longest * longest;
 }
@@ -59,7 +60,7 @@ template <typename WeightOf>
 void AddTriangle(Blend& sum, const Corners& t, const Vertex& p, WeightOf weightOf)
 {
     const Quad cross = Cross(t[0], t[1], t[2]);
-    if (IsCollinear(t, cross)) {
+    if (cross == 0) {
         return;
     }
     const Quad areas[] = {Cross(p, t[1], t[2]), Cross(t[0], p, t[2]), Cross(t[0], t[1], p)};
@@ -78,10 +79,27 @@ void AddTriangle(Blend& sum, const Corners& t, const Vertex& p, WeightOf weightO
     }
 }
 
+bool AllAreThin(const std::vector<Vertex>& vertices)
+{
+    for (std::size_t i = 0; i < vertices.size(); ++i) {
+        for (std::size_t j = i + 1; j < vertices.size(); ++j) {
+            for (std::size_t k = j + 1; k < vertices.size(); ++k) {
+                if (!IsThin({vertices[i], vertices[j], vertices[k]})) {
+                    return false;
+                }
+            }
+        }
+    }
+    return true;
+}
+
 template <typename WeightOf>
 Blend Blended(const std::vector<Vertex>& vertices, const Vertex& p, WeightOf weightOf)
 {
     Blend sum;
+    if (AllAreThin(vertices)) {
+        return sum;
+    }
     for (std::size_t i = 0; i < vertices.size(); ++i) {
         for (std::size_t j = i + 1; j < vertices.size(); ++j) {
             for (std::size_t k = j + 1; k < vertices.size(); ++k) {

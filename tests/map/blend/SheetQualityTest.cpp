@@ -6,7 +6,6 @@
 
 #include "map/UtmSheet.h"
 #include "map/blend/ForwardBlend.h"
-#include "map/blend/MapMath.h"
 
 namespace map {
 namespace {
@@ -30,7 +29,7 @@ TEST(SheetQuality, IsBelowAPixelOnPrintedGrids)
             for (const geo::GeoPosition position : PositionsOver(sheet, 0.0, 0.0)) {
                 const Pixel found = blend.At(position);
                 const Pixel expected = sheet.TruePixel(position);
-                const double off = Hypot(found.x - expected.x, found.y - expected.y);
+                const double off = Distance(found, expected);
                 worst = std::max(worst, off);
                 squares += off * off;
                 ++count;
