@@ -3,7 +3,7 @@
 build_packages=(g++ cmake ninja-build qt6-base-dev qt6-translations-l10n fonts-dejavu-core)
 test_packages=(libgtest-dev libproj-dev libgeographiclib-dev pkg-config locales)
 screen_packages=(xvfb)
-lint_packages=(clang-format clang-tidy)
+lint_packages=(clang clang-format clang-tidy)
 bench_packages=(libbenchmark-dev pkg-config libproj-dev libgeographiclib-dev libhamlib-dev libboost-dev
     libgdal-dev gpsbabel)
 
