@@ -16,6 +16,7 @@
 #include "Interleaved.h"
 #include "app/AppState.h"
 #include "ui/UserDialogs.h"
+#include "ui/main/EntryField.h"
 #include "ui/main/MainForm.h"
 #include "ui/main/StationListFrame.h"
 
@@ -25,7 +26,7 @@ using namespace Qt::StringLiterals;
 
 // What the window shows for Station 2, as texts of its widgets.
 struct Shown {
-    std::vector<std::pair<QLineEdit*, QString>> fields;
+    std::vector<std::pair<ui::EntryField*, QString>> fields;
     std::vector<std::pair<QLabel*, QString>> labels;
 };
 
@@ -65,7 +66,7 @@ public:
     {
         state_.entry.activeGroup = app::EntryGroup::None;
         for (const auto& [field, text] : shown_[typed_ ? 1 : 0].fields) {
-            field->setText(text);
+            field->Show(text);
         }
         for (const auto& [label, text] : shown_[typed_ ? 1 : 0].labels) {
             label->setText(text);
@@ -79,7 +80,7 @@ private:
     static Shown Read(const ui::MainForm& window)
     {
         Shown shown;
-        for (QLineEdit* const field : window.findChildren<QLineEdit*>()) {
+        for (ui::EntryField* const field : window.findChildren<ui::EntryField*>()) {
             if (field->objectName().endsWith(u"_1"_s)) {
                 shown.fields.emplace_back(field, field->text());
             }
