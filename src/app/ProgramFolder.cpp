@@ -31,15 +31,14 @@ std::string ProgramFolder(const std::string& folderOfProgram, const std::string&
     return portable ? folderOfProgram : userFolder;
 }
 
-bool IsPassedOver(const std::string& folderOfProgram, const std::string& used)
+bool IsPassedOver(const std::string& ownFolder, const std::string& folder)
 {
-    if (used == folderOfProgram || InBuildTree(folderOfProgram)) {
+    if (folder == ownFolder || InBuildTree(ownFolder)) {
         return false;
     }
-    const bool installed =
-        folderOfProgram.starts_with("/usr/") || folderOfProgram.starts_with("/opt/");
-    return !installed || base::FindWithoutCase(folderOfProgram, stations::kConfigurationName)
-           || base::FindWithoutCase(folderOfProgram, stations::Configuration().workingFile);
+    const bool installed = ownFolder.starts_with("/usr/") || ownFolder.starts_with("/opt/");
+    return !installed || base::FindWithoutCase(ownFolder, stations::kConfigurationName)
+           || base::FindWithoutCase(ownFolder, stations::Configuration().workingFile);
 }
 
 std::error_code EnterFolder(const std::string& folder)

@@ -12,9 +12,9 @@ namespace app {
 // so that removing the tree loses no station.
 std::string ProgramFolder(const std::string& folderOfProgram, const std::string& userFolder);
 
-// True when a user would look for his files in the program's own folder, but `used` is another:
-// the folder cannot be written and belongs to the user, or such files lie there.
-bool IsPassedOver(const std::string& folderOfProgram, const std::string& used);
+// True when a user would look for his files in the program's own folder, but `folder` is the one
+// that is used: the folder cannot be written and belongs to the user, or such files lie there.
+bool IsPassedOver(const std::string& ownFolder, const std::string& folder);
 
 // Creates the folder when it is missing and makes it the current directory, which it then stays.
 std::error_code EnterFolder(const std::string& folder);

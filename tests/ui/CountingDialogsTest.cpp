@@ -20,23 +20,29 @@ public:
         openInAll = openInAll && counting->AnyOpen();
     }
 
-    void Inform(QWidget*, const QString&, const QString&, const QString&) override { Note(); }
-    bool AskOkCancel(QWidget*, const QString&, const QString&, const QString&) override
+    void Inform(QWidget* /*parent*/, const QString& /*title*/, const QString& /*text*/,
+                const QString& /*informative*/) override
+    {
+        Note();
+    }
+    bool AskOkCancel(QWidget* /*parent*/, const QString& /*title*/, const QString& /*text*/,
+                     const QString& /*informative*/) override
     {
         Note();
         return true;
     }
-    QString OpenFile(QWidget*, const FileRequest& request) override
+    QString OpenFile(QWidget* /*parent*/, const FileRequest& request) override
     {
         Note();
         return request.title;
     }
-    QString OpenOrCreateFile(QWidget*, const FileRequest& request) override
+    QString OpenOrCreateFile(QWidget* /*parent*/, const FileRequest& request) override
     {
         Note();
         return request.filter;
     }
-    QString SaveFile(QWidget*, const FileRequest&, const QString& suffix) override
+    QString SaveFile(QWidget* /*parent*/, const FileRequest& /*request*/,
+                     const QString& suffix) override
     {
         Note();
         return suffix;

@@ -81,6 +81,18 @@ double FewTriangles::LeftOut(const Affine& triangle, PlanePoint p)
 }
 
 template <std::size_t kSide>
+void FewTriangles::TakeOffParallel(std::array<double, kSide>& weight, const Affine& triangle,
+                                   const std::array<PlanePoint, kSide>& places,
+                                   const std::array<std::int64_t, kSide>& parallel)
+{
+    for (std::size_t i = 0; i < kSide; ++i) {
+        if (parallel[i] != 0) {
+            weight[i] *= (triangle.rotations - LeftOut(triangle, places[i])) / triangle.rotations;
+        }
+    }
+}
+
+template <std::size_t kSide>
 void FewTriangles::At(const std::array<PlanePoint, kSide>& places,
                       std::span<Pixel, kSide> pixels) const
 {
@@ -105,11 +117,7 @@ void FewTriangles::At(const std::array<PlanePoint, kSide>& places,
             // One division for all three weights.
             weight[i] = t.rotations * t.areaSquared / weight[i];
         }
-        for (std::size_t i = 0; i < kSide; ++i) {
-            if (parallel[i] != 0) {
-                weight[i] *= (t.rotations - LeftOut(t, places[i])) / t.rotations;
-            }
-        }
+        TakeOffParallel(weight, t, places, parallel);
         for (std::size_t i = 0; i < kSide; ++i) {
             const double dx = places[i].x - t.corners[0].place.x;
             const double dy = places[i].y - t.corners[0].place.y;

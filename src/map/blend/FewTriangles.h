@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <span>
 #include <vector>
 
@@ -42,6 +43,12 @@ private:
     };
 
     static double LeftOut(const Affine& triangle, PlanePoint p);
+
+    // Takes the rotations that are left out off the weights of the places that may have any.
+    template <std::size_t kSide>
+    static void TakeOffParallel(std::array<double, kSide>& weight, const Affine& triangle,
+                                const std::array<PlanePoint, kSide>& places,
+                                const std::array<std::int64_t, kSide>& parallel);
 
     void Add(const ReferencePoint& a, const ReferencePoint& b, const ReferencePoint& c);
 

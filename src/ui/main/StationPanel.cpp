@@ -65,7 +65,7 @@ void StationPanel::ShowUnits(geo::DegreeMinuteMode mode)
     }
 }
 
-void StationPanel::ShowTexts(const stations::StationTexts& texts)
+void StationPanel::ShowTexts(const stations::StationTexts& texts) const
 {
     const std::array shown = {&texts.callsign,  &texts.name,   &texts.place,
                               &texts.frequency, &texts.remark, &texts.date};

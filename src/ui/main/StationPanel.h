@@ -46,7 +46,7 @@ public:
     }
 
     // The texts of the station; what was typed is composed.
-    void ShowTexts(const stations::StationTexts& texts);
+    void ShowTexts(const stations::StationTexts& texts) const;
     stations::StationTexts Texts() const;
 
     // Text14 to Text19: callsign, name, place, frequency, remark, date.

@@ -31,8 +31,10 @@ TEST(HasTriangle, NeedsOneThatIsNotThin)
 
 TEST(HasTriangle, FindsASmallOneAmongThePointsOfALine)
 {
+    constexpr int kCount = 20;
     std::vector<PlanePoint> points;
-    for (int i = 0; i < 20; ++i) {
+    points.reserve(kCount + 2);
+    for (int i = 0; i < kCount; ++i) {
         points.push_back({0.1 * i, 0.3 * i});
     }
     EXPECT_FALSE(HasTriangle(points));
