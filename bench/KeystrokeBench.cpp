@@ -68,6 +68,7 @@ public:
         for (const auto& [field, text] : shown_[typed_ ? 1 : 0].fields) {
             field->Show(text);
         }
+        field_->setCursorPosition(static_cast<int>(field_->text().size()));  // for the next key
         for (const auto& [label, text] : shown_[typed_ ? 1 : 0].labels) {
             label->setText(text);
         }
