@@ -2,7 +2,6 @@
 
 #include <initializer_list>
 
-#include <QAction>
 #include <QFileInfo>
 #include <QKeySequence>
 #include <QMainWindow>
@@ -10,7 +9,7 @@
 #include <QMenuBar>
 #include <QStandardPaths>
 
-#include "ui/Controls.h"
+#include "ui/MenuTable.h"
 #include "ui/UserDialogs.h"
 #include "ui/main/CfgForm.h"
 #include "ui/main/EditCommands.h"
@@ -22,26 +21,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A menu item; one without a name is a separator.
-struct MenuItem {
-    const char* name = nullptr;
-    QString caption;
-    std::function<void()> command;
-    QKeySequence shortcut = {};
-};
-
 void AddMenu(QMainWindow& window, const QString& title, std::initializer_list<MenuItem> items)
 {
-    QMenu* const menu = window.menuBar()->addMenu(title);
-    for (const MenuItem& item : items) {
-        if (item.name == nullptr) {
-            menu->addSeparator();
-            continue;
-        }
-        QAction* const action = Named(menu->addAction(item.caption), QLatin1StringView(item.name));
-        action->setShortcut(item.shortcut);
-        QObject::connect(action, &QAction::triggered, &window, item.command);
-    }
+    AddItems(window.menuBar()->addMenu(title), items);
 }
 
 void ShowHelp(QMainWindow& window, UserDialogs& dialogs)
@@ -76,37 +58,41 @@ void AddMainMenu(QMainWindow& window, const MainCommands& commands)
     CfgForm& configuration = commands.configuration;
     UserDialogs& dialogs = commands.dialogs;
     const auto marking = [&edits](stations::Equality equality) {
-        return [&edits, equality] { edits.MarkEqual(equality); };
+        return [&edits, equality](bool) { edits.MarkEqual(equality); };
     };
-    AddMenu(window, u"Datei"_s,
-            {
-                {"MnuOpen", u"Öffnen"_s, [&files] { files.Open(); }, QKeySequence::Open},
-                {"MnuAppend", u"Anfügen"_s, [&files] { files.Append(); }},
-                {},
-                {"MnuConfig", u"Konfiguration"_s, [&configuration] { configuration.Edit(); }},
-                {},
-                {"MnuList", u"Listing"_s, [&files] { files.WriteListing(); }},
-                {},
-                {"MnuTest", u"Test"_s, [&files] { files.ImportText(); }},
-                {"MnuExit", u"Beenden"_s, [&window] { window.close(); }, QKeySequence(u"Ctrl+Q"_s)},
-            });
     AddMenu(
-        window, u"Bearbeiten"_s,
+        window, u"Datei"_s,
         {
-            {"MnuGEE", u"gleiche Einträge entfernen"_s, [&edits] { edits.RemoveEqualEntries(); }},
-            {"MnuDopMark", u"doppelte Einträge markieren"_s, marking(stations::Equality::Full)},
-            {"MnuGlPMark", u"gleiche Positionen markieren"_s,
-             marking(stations::Equality::Position)},
+            {"MnuOpen", u"Öffnen"_s, [&files](bool) { files.Open(); }, false, QKeySequence::Open},
+            {"MnuAppend", u"Anfügen"_s, [&files](bool) { files.Append(); }},
             {},
-            {"MnuMiWert", u"S1 = Mittelwert markierte Stationen"_s,
-             [&edits] { edits.SetStation1ToMean(); }},
+            {"MnuConfig", u"Konfiguration"_s, [&configuration](bool) { configuration.Edit(); }},
+            {},
+            {"MnuList", u"Listing"_s, [&files](bool) { files.WriteListing(); }},
+            {},
+            {"MnuTest", u"Test"_s, [&files](bool) { files.ImportText(); }},
+            {"MnuExit", u"Beenden"_s, [&window](bool) { window.close(); }, false,
+             QKeySequence(u"Ctrl+Q"_s)},
         });
-    AddMenu(window, u"Ansicht"_s, {{"MnuKarte", u"Karte"_s, commands.showMap}});
+    AddMenu(window, u"Bearbeiten"_s,
+            {
+                {"MnuGEE", u"gleiche Einträge entfernen"_s,
+                 [&edits](bool) { edits.RemoveEqualEntries(); }},
+                {"MnuDopMark", u"doppelte Einträge markieren"_s, marking(stations::Equality::Full)},
+                {"MnuGlPMark", u"gleiche Positionen markieren"_s,
+                 marking(stations::Equality::Position)},
+                {},
+                {"MnuMiWert", u"S1 = Mittelwert markierte Stationen"_s,
+                 [&edits](bool) { edits.SetStation1ToMean(); }},
+            });
+    AddMenu(window, u"Ansicht"_s,
+            {{"MnuKarte", u"Karte"_s, [show = commands.showMap](bool) { show(); }}});
     AddMenu(window, u"Hilfe"_s,
             {
-                {"MnuFaq", u"FAQ"_s, [&window, &dialogs] { ShowHelp(window, dialogs); },
-                 QKeySequence(Qt::Key_F1)},
-                {"MnuVers", u"Versionen"_s, [&window, &dialogs] { ShowVersions(window, dialogs); }},
+                {"MnuFaq", u"FAQ"_s, [&window, &dialogs](bool) { ShowHelp(window, dialogs); },
+                 false, QKeySequence(Qt::Key_F1)},
+                {"MnuVers", u"Versionen"_s,
+                 [&window, &dialogs](bool) { ShowVersions(window, dialogs); }},
             });
 }
 
