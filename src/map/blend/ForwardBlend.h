@@ -1,7 +1,7 @@
 // The map model from the earth to the image, prepared once per reference table.
 //
-// Gives what TriangleBlendToPixel gives, at a cost that grows with the number of points instead of
-// its cube: docs/map-model.md.
+// The weighted blend of the affine maps of all triangles, at a cost that grows with the number of
+// points instead of its cube: docs/map-model.md.
 
 #pragma once
 

@@ -1,7 +1,7 @@
 // The map model from the image to the earth, prepared once per reference table.
 //
-// Gives what TriangleBlendToGeo gives. A rotation's weight hangs on its first vertex alone, so all
-// rotations that begin at one reference point add up to one affine map, prepared with the table.
+// A rotation's weight hangs on its first vertex alone, so all rotations that begin at one reference
+// point add up to one affine map, prepared with the table: docs/map-model.md, "The way back".
 // What is left is to take off the rotations whose line CP is exactly parallel to the base: pixels
 // are whole numbers, so on rows, mid-edges and diagonals that is the rule.
 
