@@ -10,10 +10,30 @@ namespace {
 // Extents across the strip below this part, squared, of those along it.
 constexpr double kThin = 1e-2;
 
-// What is left of a square below this part of it is summed up again.
-constexpr double kCancelled = 0.1;
+template <std::size_t kSide>
+void Add(PixelRows<kSide>& sums, const Row<kSide>& share, const ReferencePoint& point)
+{
+    for (std::size_t i = 0; i < kSide; ++i) {
+        sums.weight[i] += share[i];
+        sums.x[i] += share[i] * point.X;
+        sums.y[i] += share[i] * point.Y;
+    }
+}
 
 }  // namespace
+
+// The points as they are seen from positions side by side.
+template <std::size_t kSide>
+struct Elimination::View {
+    Row<kSide> x, y, pAlong, pAcross;      // of the positions
+    Row<kSide> one = {};                   // sum of the weights
+    Row<kSide> along = {}, across = {};    // weighted means
+    Row<kSide> aa = {}, ab = {}, bb = {};  // weighted squares about them
+    Row<kSide> slope = {};                 // of the line fitted along
+    Row<kSide> rest = {};                  // squares across about that line
+    Row<kSide> meanX, meanY, xx, xy;       // the same means and squares in degrees
+    Row<kSide> ofOne, ofAlong, ofRest;     // a point's share, per its weight
+};
 
 Elimination::Place Elimination::PlaceOf(PlanePoint p) const
 {
@@ -53,107 +73,148 @@ void Elimination::Prepare(std::span<const ReferencePoint> points)
     }
 }
 
-void Elimination::Add(WeightedPixel& sum, double share, const ReferencePoint& point)
+template <std::size_t kSide>
+Elimination::View<kSide> Elimination::ViewFrom(const Places<kSide>& positions,
+                                               std::span<const SeenPoint<kSide>> seen) const
 {
-    sum.weight += share;
-    sum.x += share * point.X;
-    sum.y += share * point.Y;
-}
-
-Elimination::View Elimination::ViewFrom(std::span<const ReferencePoint> points, PlanePoint p) const
-{
-    View v;
-    v.p = PlaceOf(p);
-    v.weights.reserve(points.size());
-    for (std::size_t i = 0; i < points.size(); ++i) {
-        const double weight = PointWeight(points[i].Longitude - p.x, points[i].Latitude - p.y);
-        v.weights.push_back(weight);
-        v.one += weight;
-        v.along += weight * places_[i].along;
-        v.across += weight * places_[i].across;
+    View<kSide> v;
+    for (std::size_t i = 0; i < kSide; ++i) {
+        const Place p = PlaceOf({.x = positions.x[i], .y = positions.y[i]});
+        v.x[i] = p.x;
+        v.y[i] = p.y;
+        v.pAlong[i] = p.along;
+        v.pAcross[i] = p.across;
     }
-    v.along /= v.one;
-    v.across /= v.one;
-    for (std::size_t i = 0; i < points.size(); ++i) {
-        const double a = places_[i].along - v.along;
-        const double b = places_[i].across - v.across;
-        v.aa += v.weights[i] * a * a;
-        v.ab += v.weights[i] * a * b;
-        v.bb += v.weights[i] * b * b;
-    }
-    v.slope = v.aa > 0.0 ? v.ab / v.aa : 0.0;
-    v.rest = v.bb - v.slope * v.ab;
-    if (v.rest < kCancelled * v.bb) {
-        v.rest = 0.0;
-        for (std::size_t i = 0; i < points.size(); ++i) {
-            const double b = places_[i].across - v.across - v.slope * (places_[i].along - v.along);
-            v.rest += v.weights[i] * b * b;
+    for (std::size_t point = 0; point < seen.size(); ++point) {
+        const Place p = places_[point];
+        const Row<kSide>& weight = seen[point].weight;
+        for (std::size_t i = 0; i < kSide; ++i) {
+            v.one[i] += weight[i];
+            v.along[i] += weight[i] * p.along;
+            v.across[i] += weight[i] * p.across;
         }
+    }
+    for (std::size_t i = 0; i < kSide; ++i) {
+        v.along[i] /= v.one[i];
+        v.across[i] /= v.one[i];
+    }
+    for (std::size_t point = 0; point < seen.size(); ++point) {
+        const Place p = places_[point];
+        const Row<kSide>& weight = seen[point].weight;
+        for (std::size_t i = 0; i < kSide; ++i) {
+            const double a = p.along - v.along[i];
+            const double b = p.across - v.across[i];
+            v.aa[i] += weight[i] * a * a;
+            v.ab[i] += weight[i] * a * b;
+            v.bb[i] += weight[i] * b * b;
+        }
+    }
+    for (std::size_t i = 0; i < kSide; ++i) {
+        v.slope[i] = v.aa[i] > 0.0 ? v.ab[i] / v.aa[i] : 0.0;
+    }
+    for (std::size_t point = 0; point < seen.size(); ++point) {
+        const Place p = places_[point];
+        const Row<kSide>& weight = seen[point].weight;
+        for (std::size_t i = 0; i < kSide; ++i) {
+            const double b = p.across - v.across[i] - v.slope[i] * (p.along - v.along[i]);
+            v.rest[i] += weight[i] * b * b;
+        }
+    }
+    const auto c = static_cast<double>(cosine_);
+    const auto s = static_cast<double>(sine_);
+    for (std::size_t i = 0; i < kSide; ++i) {
+        const double pAlong = v.pAlong[i] - v.along[i];
+        const double pRest = v.pAcross[i] - v.across[i] - v.slope[i] * pAlong;
+        v.ofOne[i] = 3.0 * v.aa[i] * v.rest[i];
+        v.ofAlong[i] = 3.0 * v.one[i] * v.rest[i] * pAlong;
+        v.ofRest[i] = 3.0 * v.one[i] * v.aa[i] * pRest;
+        v.meanX[i] = c * v.along[i] - s * v.across[i];
+        v.meanY[i] = s * v.along[i] + c * v.across[i];
+        v.xx[i] = c * c * v.aa[i] - 2.0 * c * s * v.ab[i] + s * s * v.bb[i];
+        v.xy[i] = c * s * (v.aa[i] - v.bb[i]) + (c * c - s * s) * v.ab[i];
     }
     return v;
 }
 
-// The rotations over the bases of columns, with a minus.
-WeightedPixel Elimination::WithoutColumns(std::span<const ReferencePoint> points,
-                                          std::span<const Column> columns, const View& v) const
+// Takes off the rotations over the bases of one column: from the shares what concerns any apex,
+// from `sums` what concerns the points of the column.
+template <std::size_t kSide>
+void Elimination::TakeOff(std::span<const ReferencePoint> points, const Column& column,
+                          std::span<const SeenPoint<kSide>> seen, View<kSide>& v,
+                          PixelRows<kSide>& sums) const
 {
-    WeightedPixel sum;
+    Row<kSide> one = {};
+    Row<kSide> y = {};
+    Row<kSide> yy = {};
+    for (std::size_t point = column.begin; point < column.end; ++point) {
+        for (std::size_t i = 0; i < kSide; ++i) {
+            one[i] += seen[point].weight[i];
+            y[i] += seen[point].weight[i] * places_[point].y;
+        }
+    }
+    for (std::size_t i = 0; i < kSide; ++i) {
+        y[i] /= one[i];
+    }
+    for (std::size_t point = column.begin; point < column.end; ++point) {
+        for (std::size_t i = 0; i < kSide; ++i) {
+            const double dy = places_[point].y - y[i];
+            yy[i] += seen[point].weight[i] * dy * dy;
+        }
+    }
     const auto c = static_cast<double>(cosine_);
     const auto s = static_cast<double>(sine_);
-    const double meanX = c * v.along - s * v.across;
-    const double meanY = s * v.along + c * v.across;
-    const double xx = c * c * v.aa - 2.0 * c * s * v.ab + s * s * v.bb;
-    const double xy = c * s * (v.aa - v.bb) + (c * c - s * s) * v.ab;
-    double ofOne = 0.0;
-    double ofX = 0.0;
-    for (const Column& column : columns) {
-        double one = 0.0;
-        double y = 0.0;
-        for (std::size_t i = column.begin; i < column.end; ++i) {
-            one += v.weights[i];
-            y += v.weights[i] * places_[i].y;
-        }
-        y /= one;
-        double yy = 0.0;
-        for (std::size_t i = column.begin; i < column.end; ++i) {
-            yy += v.weights[i] * (places_[i].y - y) * (places_[i].y - y);
-        }
-        const double toMean = meanX - places_[column.begin].x;
-        const double fromColumn = v.p.x - places_[column.begin].x;
-        ofX += fromColumn * one * yy;
-        ofOne += fromColumn * one * yy * toMean;
+    const double x = places_[column.begin].x;
+    Row<kSide> ownOne;
+    Row<kSide> ownY;
+    for (std::size_t i = 0; i < kSide; ++i) {
+        const double toMean = v.meanX[i] - x;
+        const double fromColumn = v.x[i] - x;
+        const double pairs = fromColumn * one[i] * yy[i];
+        v.ofOne[i] -= pairs * toMean;
+        v.ofAlong[i] -= pairs * (c - s * v.slope[i]);
+        v.ofRest[i] += pairs * s;
         // Over the apexes, from the column.
-        const double dd = xx + toMean * toMean * v.one;
-        const double d = toMean * v.one;
-        const double dy = xy + (meanY - y) * d;
-        const double ownOne = yy * (dd - fromColumn * d);
-        const double ownY = one * (dd * (v.p.y - y) - fromColumn * dy);
-        for (std::size_t i = column.begin; i < column.end; ++i) {
-            Add(sum, -v.weights[i] * (ownOne + ownY * (places_[i].y - y)), points[i]);
+        const double d = toMean * v.one[i];
+        const double dd = v.xx[i] + toMean * d;
+        const double dy = v.xy[i] + (v.meanY[i] - y[i]) * d;
+        ownOne[i] = yy[i] * (dd - fromColumn * d);
+        ownY[i] = one[i] * (dd * (v.y[i] - y[i]) - fromColumn * dy);
+    }
+    for (std::size_t point = column.begin; point < column.end; ++point) {
+        Row<kSide> share;
+        for (std::size_t i = 0; i < kSide; ++i) {
+            share[i] = -seen[point].weight[i] * (ownOne[i] + ownY[i] * (places_[point].y - y[i]));
         }
+        Add(sums, share, points[point]);
     }
-    for (std::size_t i = 0; i < points.size() && !columns.empty(); ++i) {
-        Add(sum, -v.weights[i] * (ofOne + ofX * (places_[i].x - meanX)), points[i]);
-    }
-    return sum;
 }
 
-WeightedPixel Elimination::At(std::span<const ReferencePoint> points,
-                              std::span<const Column> columns, PlanePoint p) const
+template <std::size_t kSide>
+PixelRows<kSide> Elimination::At(std::span<const ReferencePoint> points,
+                                 std::span<const Column> columns, const Places<kSide>& positions,
+                                 std::span<const SeenPoint<kSide>> seen) const
 {
-    const View v = ViewFrom(points, p);
-    const double pAlong = v.p.along - v.along;
-    const double pRest = v.p.across - v.across - v.slope * pAlong;
-    const double ofOne = 3.0 * v.aa * v.rest;
-    const double ofAlong = 3.0 * v.one * v.rest * pAlong;
-    const double ofRest = 3.0 * v.one * v.aa * pRest;
-    WeightedPixel sum = WithoutColumns(points, columns, v);
-    for (std::size_t i = 0; i < points.size(); ++i) {
-        const double a = places_[i].along - v.along;
-        const double b = places_[i].across - v.across - v.slope * a;
-        Add(sum, v.weights[i] * (ofOne + ofAlong * a + ofRest * b), points[i]);
+    View<kSide> v = ViewFrom<kSide>(positions, seen);
+    PixelRows<kSide> sums;
+    for (const Column& column : columns) {
+        TakeOff<kSide>(points, column, seen, v, sums);
     }
-    return sum;
+    for (std::size_t point = 0; point < points.size(); ++point) {
+        Row<kSide> share;
+        for (std::size_t i = 0; i < kSide; ++i) {
+            const double a = places_[point].along - v.along[i];
+            const double b = places_[point].across - v.across[i] - v.slope[i] * a;
+            share[i] = seen[point].weight[i] * (v.ofOne[i] + v.ofAlong[i] * a + v.ofRest[i] * b);
+        }
+        Add(sums, share, points[point]);
+    }
+    return sums;
 }
+
+template PixelRows<1> Elimination::At(std::span<const ReferencePoint>, std::span<const Column>,
+                                      const Places<1>&, std::span<const SeenPoint<1>>) const;
+template PixelRows<kManySides> Elimination::At(std::span<const ReferencePoint>,
+                                               std::span<const Column>, const Places<kManySides>&,
+                                               std::span<const SeenPoint<kManySides>>) const;
 
 }  // namespace map

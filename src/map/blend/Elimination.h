@@ -3,12 +3,13 @@
 
 #pragma once
 
+#include <cstddef>
 #include <span>
 #include <vector>
 
 #include "map/ReferencePoint.h"
+#include "map/blend/ForwardSums.h"
 #include "map/blend/PlanePoint.h"
-#include "map/blend/Weights.h"
 
 namespace map {
 
@@ -19,9 +20,12 @@ public:
     // Whether the points are so thin a strip that no other sums will do.
     bool IsThin() const { return thin_; }
 
-    // All rotations over bases that are not vertical, seen from `p`; of the points prepared.
-    WeightedPixel At(std::span<const ReferencePoint> points, std::span<const Column> columns,
-                     PlanePoint p) const;
+    // All rotations over bases that are not vertical, seen from `positions`; of the points
+    // prepared. Compiled for 1 and kManySides.
+    template <std::size_t kSide>
+    PixelRows<kSide> At(std::span<const ReferencePoint> points, std::span<const Column> columns,
+                        const Places<kSide>& positions,
+                        std::span<const SeenPoint<kSide>> seen) const;
 
 private:
     using Extended = long double;
@@ -32,22 +36,17 @@ private:
         double along, across;
     };
 
-    // The points as they are seen from a position.
-    struct View {
-        Place p;
-        std::vector<double> weights;
-        double one = 0.0;                     // sum of the weights
-        double along = 0.0, across = 0.0;     // weighted means
-        double aa = 0.0, ab = 0.0, bb = 0.0;  // weighted squares about them
-        double slope = 0.0;                   // of the line fitted along
-        double rest = 0.0;                    // squares across about that line
-    };
+    template <std::size_t kSide>
+    struct View;
 
     Place PlaceOf(PlanePoint p) const;
-    View ViewFrom(std::span<const ReferencePoint> points, PlanePoint p) const;
-    WeightedPixel WithoutColumns(std::span<const ReferencePoint> points,
-                                 std::span<const Column> columns, const View& view) const;
-    static void Add(WeightedPixel& sum, double share, const ReferencePoint& point);
+    template <std::size_t kSide>
+    View<kSide> ViewFrom(const Places<kSide>& positions,
+                         std::span<const SeenPoint<kSide>> seen) const;
+    template <std::size_t kSide>
+    void TakeOff(std::span<const ReferencePoint> points, const Column& column,
+                 std::span<const SeenPoint<kSide>> seen, View<kSide>& v,
+                 PixelRows<kSide>& sums) const;
 
     PlanePoint middle_;
     Extended cosine_ = 1;

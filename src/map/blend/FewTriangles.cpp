@@ -2,9 +2,7 @@
 
 #include <cmath>
 #include <cstddef>
-#include <cstdint>
 
-#include "map/blend/ForwardSums.h"
 #include "map/blend/ParallelBases.h"
 #include "map/blend/Weights.h"
 
@@ -20,32 +18,47 @@ constexpr double kRounding = 1e-14;
 void FewTriangles::Prepare(std::span<const ReferencePoint> points)
 {
     triangles_.clear();
+    places_.clear();
+    for (const ReferencePoint& point : points) {
+        places_.push_back({.x = point.Longitude, .y = point.Latitude});
+    }
     for (std::size_t i = 0; i < points.size(); ++i) {
         for (std::size_t j = i + 1; j < points.size(); ++j) {
             for (std::size_t k = j + 1; k < points.size(); ++k) {
-                Add(points[i], points[j], points[k]);
+                Add(points, i, j, k);
             }
         }
     }
 }
 
-void FewTriangles::Add(const ReferencePoint& a, const ReferencePoint& b, const ReferencePoint& c)
+void FewTriangles::Add(std::span<const ReferencePoint> points, std::size_t i, std::size_t j,
+                       std::size_t k)
 {
     // Extended precision: a thin triangle magnifies every error of its map.
     using Extended = long double;
+    const ReferencePoint& a = points[i];
+    const ReferencePoint& b = points[j];
+    const ReferencePoint& c = points[k];
     const Extended bx = static_cast<Extended>(b.Longitude) - a.Longitude;
     const Extended by = static_cast<Extended>(b.Latitude) - a.Latitude;
     const Extended cx = static_cast<Extended>(c.Longitude) - a.Longitude;
     const Extended cy = static_cast<Extended>(c.Latitude) - a.Latitude;
     const Extended cross = bx * cy - by * cx;
-    const auto areaSquared = static_cast<double>(cross * cross / 4);
+    const auto areaSquared = static_cast<double>(cross * cross);
     if (!std::isnormal(areaSquared)) {
         return;
     }
     const auto slope = [cross](Extended first, Extended second) {
         return static_cast<double>((first - second) / cross);
     };
-    Affine triangle = {.rotations = 0.0,
+    const auto corner = [this](std::size_t apex, std::size_t from, std::size_t to) {
+        return Corner{
+            .point = apex,
+            .base = {.x = places_[to].x - places_[from].x, .y = places_[to].y - places_[from].y}};
+    };
+    Affine triangle = {.corners = {corner(i, j, k), corner(j, k, i), corner(k, i, j)},
+                       .other = 6 - i - j - k,
+                       .rotations = 0.0,
                        .areaSquared = areaSquared,
                        .x = a.X,
                        .y = a.Y,
@@ -53,87 +66,58 @@ void FewTriangles::Add(const ReferencePoint& a, const ReferencePoint& b, const R
                        .xy = slope((c.X - a.X) * bx, (b.X - a.X) * cx),
                        .yx = slope((b.Y - a.Y) * cy, (c.Y - a.Y) * by),
                        .yy = slope((c.Y - a.Y) * bx, (b.Y - a.Y) * cx)};
-    const ReferencePoint* const points[] = {&a, &b, &c};
-    for (std::size_t r = 0; r < 3; ++r) {
-        const ReferencePoint& from = *points[(r + 1) % 3];
-        const ReferencePoint& to = *points[(r + 2) % 3];
-        triangle.corners[r] = {
-            .place = {.x = points[r]->Longitude, .y = points[r]->Latitude},
-            .base = {.x = to.Longitude - from.Longitude, .y = to.Latitude - from.Latitude}};
-        triangle.rotations += triangle.corners[r].base.x != 0.0 ? 1.0 : 0.0;
+    for (const Corner& opposite : triangle.corners) {
+        triangle.rotations += opposite.base.x != 0.0 ? 1.0 : 0.0;
     }
     triangles_.push_back(triangle);
 }
 
 // Rotations of a triangle whose line from the apex through P is parallel to the base.
-double FewTriangles::LeftOut(const Affine& triangle, PlanePoint p)
+double FewTriangles::LeftOut(const Affine& triangle, PlanePoint p) const
 {
     double count = 0.0;
     for (std::size_t r = 0; r < 3; ++r) {
         const auto& corners = triangle.corners;
         if (corners[r].base.x != 0.0
-            && ExactlyParallel(p, corners[r].place, corners[(r + 1) % 3].place,
-                               corners[(r + 2) % 3].place)) {
+            && ExactlyParallel(p, places_[corners[r].point], places_[corners[(r + 1) % 3].point],
+                               places_[corners[(r + 2) % 3].point])) {
             count += 1.0;
         }
     }
     return count;
 }
 
-template <std::size_t kSide>
-void FewTriangles::TakeOffParallel(std::array<double, kSide>& weight, const Affine& triangle,
-                                   const std::array<PlanePoint, kSide>& places,
-                                   const std::array<std::int64_t, kSide>& parallel)
+Pixel FewTriangles::At(PlanePoint p) const
 {
-    for (std::size_t i = 0; i < kSide; ++i) {
-        if (parallel[i] != 0) {
-            weight[i] *= (triangle.rotations - LeftOut(triangle, places[i])) / triangle.rotations;
-        }
+    std::array<double, kMostPoints> fromX;
+    std::array<double, kMostPoints> fromY;
+    std::array<double, kMostPoints> distance2 = {1.0, 1.0, 1.0, 1.0};
+    for (std::size_t i = 0; i < places_.size(); ++i) {
+        fromX[i] = p.x - places_[i].x;
+        fromY[i] = p.y - places_[i].y;
+        distance2[i] = fromX[i] * fromX[i] + fromY[i] * fromY[i] + kCoincident;
     }
-}
-
-template <std::size_t kSide>
-void FewTriangles::At(const std::array<PlanePoint, kSide>& places,
-                      std::span<Pixel, kSide> pixels) const
-{
-    Row<kSide> sum = {};
-    Row<kSide> sumX = {};
-    Row<kSide> sumY = {};
+    WeightedPixel sum;
     for (const Affine& t : triangles_) {
-        Row<kSide> weight;
-        std::array<std::int64_t, kSide> parallel = {};
-        weight.fill(1.0);
+        bool parallel = false;
         for (const Corner& corner : t.corners) {
-            for (std::size_t i = 0; i < kSide; ++i) {
-                const double dx = places[i].x - corner.place.x;
-                const double dy = places[i].y - corner.place.y;
-                const double first = dx * corner.base.y;
-                const double second = dy * corner.base.x;
-                weight[i] *= dx * dx + dy * dy + kCoincident;
-                parallel[i] |= std::fabs(first - second) <= kRounding * std::fabs(first) ? 1 : 0;
-            }
+            const double first = fromX[corner.point] * corner.base.y;
+            const double second = fromY[corner.point] * corner.base.x;
+            parallel |= std::fabs(first - second) <= kRounding * std::fabs(first);
         }
-        for (std::size_t i = 0; i < kSide; ++i) {
-            // One division for all three weights.
-            weight[i] = t.rotations * t.areaSquared / weight[i];
-        }
-        TakeOffParallel(weight, t, places, parallel);
-        for (std::size_t i = 0; i < kSide; ++i) {
-            const double dx = places[i].x - t.corners[0].place.x;
-            const double dy = places[i].y - t.corners[0].place.y;
-            sum[i] += weight[i];
-            sumX[i] += weight[i] * (t.x + t.xx * dx + t.xy * dy);
-            sumY[i] += weight[i] * (t.y + t.yx * dx + t.yy * dy);
-        }
+        const double rotations = parallel ? t.rotations - LeftOut(t, p) : t.rotations;
+        // All weights are taken times all squared distances, so that none is divided by three.
+        const double weight = rotations * t.areaSquared * distance2[t.other];
+        const double dx = fromX[t.corners[0].point];
+        const double dy = fromY[t.corners[0].point];
+        sum.weight += weight;
+        sum.x += weight * (t.x + t.xx * dx + t.xy * dy);
+        sum.y += weight * (t.y + t.yx * dx + t.yy * dy);
     }
-    for (std::size_t i = 0; i < kSide; ++i) {
-        pixels[i] =
-            std::isnormal(sum[i]) ? Pixel{.x = sumX[i] / sum[i], .y = sumY[i] / sum[i]} : Pixel{};
+    if (!std::isnormal(sum.weight)) {
+        return {};
     }
+    return {.x = sum.x / sum.weight, .y = sum.y / sum.weight};
 }
-
-template void FewTriangles::At(const std::array<PlanePoint, 1>&, std::span<Pixel, 1>) const;
-template void FewTriangles::At(const std::array<PlanePoint, kManySides>&,
-                               std::span<Pixel, kManySides>) const;
 
 }  // namespace map

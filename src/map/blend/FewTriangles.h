@@ -5,7 +5,6 @@
 
 #include <array>
 #include <cstddef>
-#include <cstdint>
 #include <span>
 #include <vector>
 
@@ -22,36 +21,30 @@ public:
     // Takes all triangles that are not exactly collinear.
     void Prepare(std::span<const ReferencePoint> points);
 
-    // Pixels of positions in degrees; 0/0 when every rotation is left out. For one and kManySides.
-    template <std::size_t kSide>
-    void At(const std::array<PlanePoint, kSide>& places, std::span<Pixel, kSide> pixels) const;
+    // Pixel of a position in degrees; 0/0 when every rotation is left out.
+    Pixel At(PlanePoint p) const;
 
 private:
     // A corner and the side opposite to it.
     struct Corner {
-        PlanePoint place;
+        std::size_t point;
         PlanePoint base;
     };
 
     struct Affine {
-        std::array<Corner, 3> corners = {};
-        double rotations;  // that no vertical base rules out
-        double areaSquared;
-        double x, y;    // pixel of the first corner
-        double xx, xy;  // change of its x per degree of longitude, of latitude
+        std::array<Corner, 3> corners;
+        std::size_t other;   // the point that is no corner; kMostPoints - 1 of three points
+        double rotations;    // that no vertical base rules out
+        double areaSquared;  // doubled
+        double x, y;         // pixel of the first corner
+        double xx, xy;       // change of its x per degree of longitude, of latitude
         double yx, yy;
     };
 
-    static double LeftOut(const Affine& triangle, PlanePoint p);
+    void Add(std::span<const ReferencePoint> points, std::size_t i, std::size_t j, std::size_t k);
+    double LeftOut(const Affine& triangle, PlanePoint p) const;
 
-    // Takes the rotations that are left out off the weights of the places that may have any.
-    template <std::size_t kSide>
-    static void TakeOffParallel(std::array<double, kSide>& weight, const Affine& triangle,
-                                const std::array<PlanePoint, kSide>& places,
-                                const std::array<std::int64_t, kSide>& parallel);
-
-    void Add(const ReferencePoint& a, const ReferencePoint& b, const ReferencePoint& c);
-
+    std::vector<PlanePoint> places_;
     std::vector<Affine> triangles_;
 };
 

@@ -23,9 +23,12 @@ bool IsFinite(geo::GeoPosition position)
     return std::isfinite(position.longitude) && std::isfinite(position.latitude);
 }
 
-// The place of a finite position.
+// The place of a position; any when it is not finite.
 PlanePoint Place(geo::GeoPosition position)
 {
+    if (!IsFinite(position)) {
+        return {};
+    }
     return {.x = std::clamp(position.longitude, -kFarthestPoint, kFarthestPoint),
             .y = std::clamp(position.latitude, -kFarthestPoint, kFarthestPoint)};
 }
@@ -85,16 +88,33 @@ void ForwardBlend::Prepare(std::span<const ReferencePoint> points)
 
 Pixel ForwardBlend::At(geo::GeoPosition position) const
 {
-    Pixel pixel;
-    Find<1>(std::span<const geo::GeoPosition, 1>(&position, 1), std::span<Pixel, 1>(&pixel, 1),
-            seenByOne_);
-    return pixel;
+    if (!IsFinite(position)) {
+        return {.x = kNaN, .y = kNaN};
+    }
+    if (!usable_) {
+        return {};
+    }
+    if (points_.size() <= FewTriangles::kMostPoints) {
+        return few_.At(Place(position));
+    }
+    const PlanePoint place = Place(position);
+    return Find<1>({.x = {place.x}, .y = {place.y}}, seenByOne_).front();
 }
 
 void ForwardBlend::At(std::span<const geo::GeoPosition> positions, std::span<Pixel> pixels) const
 {
-    while (positions.size() >= kManySides) {
-        Find<kManySides>(positions.first<kManySides>(), pixels.first<kManySides>(), seenByMany_);
+    Places<kManySides> places;
+    while (positions.size() >= kManySides && usable_
+           && points_.size() > FewTriangles::kMostPoints) {
+        for (std::size_t i = 0; i < kManySides; ++i) {
+            const PlanePoint place = Place(positions[i]);
+            places.x[i] = place.x;
+            places.y[i] = place.y;
+        }
+        const std::array<Pixel, kManySides> found = Find<kManySides>(places, seenByMany_);
+        for (std::size_t i = 0; i < kManySides; ++i) {
+            pixels[i] = IsFinite(positions[i]) ? found[i] : Pixel{.x = kNaN, .y = kNaN};
+        }
         positions = positions.subspan(kManySides);
         pixels = pixels.subspan(kManySides);
     }
@@ -103,67 +123,60 @@ void ForwardBlend::At(std::span<const geo::GeoPosition> positions, std::span<Pix
 }
 
 template <std::size_t kSide>
-void ForwardBlend::Find(std::span<const geo::GeoPosition, kSide> positions,
-                        std::span<Pixel, kSide> pixels, Scratch<kSide>& seen) const
-{
-    std::array<PlanePoint, kSide> places;
-    for (std::size_t i = 0; i < kSide; ++i) {
-        places[i] = IsFinite(positions[i]) ? Place(positions[i]) : PlanePoint{};
-    }
-    if (!usable_) {
-        std::fill(pixels.begin(), pixels.end(), Pixel{});
-    } else if (points_.size() <= FewTriangles::kMostPoints) {
-        few_.At<kSide>(places, pixels);
-    } else {
-        FindBySums<kSide>(places, pixels, seen);
-    }
-    for (std::size_t i = 0; i < kSide; ++i) {
-        if (!IsFinite(positions[i])) {
-            pixels[i] = {.x = kNaN, .y = kNaN};
-        }
-    }
-}
-
-template <std::size_t kSide>
-void ForwardBlend::FindBySums(const std::array<PlanePoint, kSide>& places,
-                              std::span<Pixel, kSide> pixels, Scratch<kSide>& seen) const
+std::array<Pixel, kSide> ForwardBlend::Find(const Places<kSide>& places, Scratch<kSide>& seen) const
 {
     seen.resize(points_.size());
-    ForwardSums<kSide> sums = SumUp<kSide>(points_, columns_, places, seen);
-    for (std::size_t i = 0; i < kSide; ++i) {
-        if (elimination_.IsThin() || !sums.exact[i]) {
-            sums.sum[i] = elimination_.At(points_, columns_, places[i]);
+    ForwardSums<kSide> sums;
+    if (elimination_.IsThin()) {
+        See<kSide>(points_, places, seen);
+    } else {
+        sums = SumUp<kSide>(points_, columns_, places, seen);
+    }
+    PixelRows<kSide>& sum = sums.sum;
+    if (std::find(sums.exact.begin(), sums.exact.end(), false) != sums.exact.end()) {
+        const PixelRows<kSide> careful = elimination_.At<kSide>(points_, columns_, places, seen);
+        for (std::size_t i = 0; i < kSide; ++i) {
+            sum.weight[i] = sums.exact[i] ? sum.weight[i] : careful.weight[i];
+            sum.x[i] = sums.exact[i] ? sum.x[i] : careful.x[i];
+            sum.y[i] = sums.exact[i] ? sum.y[i] : careful.y[i];
         }
     }
     const DirectionFilter filter = bases_.Filter();
     for (std::size_t c = 0; c < points_.size() && !bases_.All().empty(); ++c) {
         for (std::size_t i = 0; i < kSide; ++i) {
             if (filter.Possible(seen[c].step[i])) {
-                SubtractParallel(sums.sum[i], places[i], c);
+                const WeightedPixel parallel =
+                    ParallelAround(c, {.x = places.x[i], .y = places.y[i]});
+                sum.weight[i] -= parallel.weight;
+                sum.x[i] -= parallel.x;
+                sum.y[i] -= parallel.y;
             }
         }
     }
+    std::array<Pixel, kSide> pixels;
     for (std::size_t i = 0; i < kSide; ++i) {
-        const WeightedPixel& sum = sums.sum[i];
-        pixels[i] = std::isnormal(sum.weight)
-                        ? Pixel{.x = sum.x / sum.weight, .y = sum.y / sum.weight}
+        pixels[i] = std::isnormal(sum.weight[i])
+                        ? Pixel{.x = sum.x[i] / sum.weight[i], .y = sum.y[i] / sum.weight[i]}
                         : Pixel{};
     }
+    return pixels;
 }
 
-void ForwardBlend::SubtractParallel(WeightedPixel& sum, PlanePoint p, std::size_t c) const
+WeightedPixel ForwardBlend::ParallelAround(std::size_t c, PlanePoint p) const
 {
+    WeightedPixel sum;
     const PlanePoint apex = places_[c];
     for (const auto& [slope, a, b] : bases_.Near(p.x - apex.x, p.y - apex.y)) {
         if (Cross(places_[a], places_[b], apex) != 0.0
             && ExactlyParallel(p, apex, places_[a], places_[b])) {
-            SubtractRotation(sum, p, points_[a], points_[b], points_[c]);
+            AddRotation(sum, p, points_[a], points_[b], points_[c]);
         }
     }
+    return sum;
 }
 
-void ForwardBlend::SubtractRotation(WeightedPixel& sum, PlanePoint p, const ReferencePoint& a,
-                                    const ReferencePoint& b, const ReferencePoint& c)
+void ForwardBlend::AddRotation(WeightedPixel& sum, PlanePoint p, const ReferencePoint& a,
+                               const ReferencePoint& b, const ReferencePoint& c)
 {
     const SeenPlace fromA = Seen(Place(a), p);
     const SeenPlace fromB = Seen(Place(b), p);
@@ -174,9 +187,9 @@ void ForwardBlend::SubtractRotation(WeightedPixel& sum, PlanePoint p, const Refe
     const Extended cross = ofA + ofB + ofC;
     const Extended weight = PointWeight(fromA.x, fromA.y) * PointWeight(fromB.x, fromB.y)
                             * PointWeight(fromC.x, fromC.y) * cross;
-    sum.weight -= static_cast<double>(weight * cross);
-    sum.x -= static_cast<double>(weight * (ofA * a.X + ofB * b.X + ofC * c.X));
-    sum.y -= static_cast<double>(weight * (ofA * a.Y + ofB * b.Y + ofC * c.Y));
+    sum.weight += static_cast<double>(weight * cross);
+    sum.x += static_cast<double>(weight * (ofA * a.X + ofB * b.X + ofC * c.X));
+    sum.y += static_cast<double>(weight * (ofA * a.Y + ofB * b.Y + ofC * c.Y));
 }
 
 }  // namespace map

@@ -18,6 +18,7 @@
 #include "map/blend/ForwardSums.h"
 #include "map/blend/ParallelBases.h"
 #include "map/blend/PlanePoint.h"
+#include "map/blend/Weights.h"
 
 namespace map {
 
@@ -41,15 +42,13 @@ private:
     template <std::size_t kSide>
     using Scratch = std::vector<SeenPoint<kSide>>;
 
+    // By sums over more points than FewTriangles takes.
     template <std::size_t kSide>
-    void Find(std::span<const geo::GeoPosition, kSide> positions, std::span<Pixel, kSide> pixels,
-              Scratch<kSide>& seen) const;
-    template <std::size_t kSide>
-    void FindBySums(const std::array<PlanePoint, kSide>& places, std::span<Pixel, kSide> pixels,
-                    Scratch<kSide>& seen) const;
-    void SubtractParallel(WeightedPixel& sum, PlanePoint p, std::size_t c) const;
-    static void SubtractRotation(WeightedPixel& sum, PlanePoint p, const ReferencePoint& a,
-                                 const ReferencePoint& b, const ReferencePoint& c);
+    std::array<Pixel, kSide> Find(const Places<kSide>& places, Scratch<kSide>& seen) const;
+    // The rotations around apex `c` that are left out because their line is parallel to the base.
+    WeightedPixel ParallelAround(std::size_t c, PlanePoint p) const;
+    static void AddRotation(WeightedPixel& sum, PlanePoint p, const ReferencePoint& a,
+                            const ReferencePoint& b, const ReferencePoint& c);
 
     // By longitude, with their places.
     std::vector<ReferencePoint> points_;

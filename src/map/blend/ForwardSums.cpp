@@ -1,6 +1,7 @@
 #include "map/blend/ForwardSums.h"
 
 #include "map/blend/ParallelBases.h"
+#include "map/blend/Weights.h"
 
 namespace map {
 
@@ -24,34 +25,31 @@ struct Factors {
 };
 
 template <std::size_t kSide>
-struct PixelSums {
-    Row<kSide> weight = {}, x = {}, y = {};
-
-    void Add(const SeenPoint<kSide>& seen, const Factors<kSide>& factors, const Row<kSide>& pX,
-             const Row<kSide>& pY, const ReferencePoint& point)
-    {
-        for (std::size_t i = 0; i < kSide; ++i) {
-            const double share = seen.weight[i]
-                                 * (factors.one[i] + factors.x[i] * (point.Longitude - pX[i])
-                                    + factors.y[i] * (point.Latitude - pY[i]));
-            x[i] += share * point.X;
-            y[i] += share * point.Y;
-        }
+void Add(PixelRows<kSide>& sums, const SeenPoint<kSide>& seen, const Factors<kSide>& factors,
+         const Places<kSide>& places, const ReferencePoint& point)
+{
+    for (std::size_t i = 0; i < kSide; ++i) {
+        const double share = seen.weight[i]
+                             * (factors.one[i] + factors.x[i] * (point.Longitude - places.x[i])
+                                + factors.y[i] * (point.Latitude - places.y[i]));
+        sums.x[i] += share * point.X;
+        sums.y[i] += share * point.Y;
     }
-};
+}
 
 template <std::size_t kSide>
-Moments<kSide> See(std::span<const ReferencePoint> points, const Row<kSide>& pX,
-                   const Row<kSide>& pY, std::span<SeenPoint<kSide>> seen)
+Moments<kSide> SeeAndSum(std::span<const ReferencePoint> points, const Places<kSide>& places,
+                         std::span<SeenPoint<kSide>> seen)
 {
+    const Places<kSide> p = places;
     Moments<kSide> m;
     for (std::size_t point = 0; point < points.size(); ++point) {
         const double pointX = points[point].Longitude;
         const double pointY = points[point].Latitude;
         SeenPoint<kSide>& s = seen[point];
         for (std::size_t i = 0; i < kSide; ++i) {
-            const double dx = pointX - pX[i];
-            const double dy = pointY - pY[i];
+            const double dx = pointX - p.x[i];
+            const double dy = pointY - p.y[i];
             const double weight = PointWeight(dx, dy);
             const double x = weight * dx;
             const double y = weight * dy;
@@ -73,8 +71,8 @@ Moments<kSide> See(std::span<const ReferencePoint> points, const Row<kSide>& pX,
 // `sums` what concerns the points of the column.
 template <std::size_t kSide>
 void TakeOff(std::span<const ReferencePoint> column, std::span<const SeenPoint<kSide>> seen,
-             const Row<kSide>& pX, const Row<kSide>& pY, const Moments<kSide>& m,
-             Factors<kSide>& factors, PixelSums<kSide>& sums)
+             const Places<kSide>& places, const Moments<kSide>& m, Factors<kSide>& factors,
+             PixelRows<kSide>& sums)
 {
     Row<kSide> one = {};
     Row<kSide> y = {};
@@ -82,14 +80,14 @@ void TakeOff(std::span<const ReferencePoint> column, std::span<const SeenPoint<k
     for (std::size_t point = 0; point < column.size(); ++point) {
         for (std::size_t i = 0; i < kSide; ++i) {
             one[i] += seen[point].weight[i];
-            const double dy = column[point].Latitude - pY[i];
+            const double dy = column[point].Latitude - places.y[i];
             y[i] += seen[point].weight[i] * dy;
             yy[i] += seen[point].weight[i] * dy * dy;
         }
     }
     Factors<kSide> own;
     for (std::size_t i = 0; i < kSide; ++i) {
-        const double x = column.front().Longitude - pX[i];
+        const double x = column.front().Longitude - places.x[i];
         const double pairs = one[i] * yy[i] - y[i] * y[i];
         factors.one[i] -= pairs * x * x;
         factors.x[i] += pairs * x;
@@ -101,27 +99,37 @@ void TakeOff(std::span<const ReferencePoint> column, std::span<const SeenPoint<k
         own.y[i] = y[i] * dx - x * one[i] * dy;
     }
     for (std::size_t point = 0; point < column.size(); ++point) {
-        sums.Add(seen[point], own, pX, pY, column[point]);
+        Add(sums, seen[point], own, places, column[point]);
     }
 }
 
 }  // namespace
 
 template <std::size_t kSide>
-ForwardSums<kSide> SumUp(std::span<const ReferencePoint> points, std::span<const Column> columns,
-                         const std::array<PlanePoint, kSide>& positions,
-                         std::span<SeenPoint<kSide>> seen)
+void See(std::span<const ReferencePoint> points, const Places<kSide>& places,
+         std::span<SeenPoint<kSide>> seen)
 {
-    Row<kSide> pX;
-    Row<kSide> pY;
-    for (std::size_t i = 0; i < kSide; ++i) {
-        pX[i] = positions[i].x;
-        pY[i] = positions[i].y;
+    const Places<kSide> p = places;
+    for (std::size_t point = 0; point < points.size(); ++point) {
+        const ReferencePoint from = points[point];
+        for (std::size_t i = 0; i < kSide; ++i) {
+            const double dx = from.Longitude - p.x[i];
+            const double weight = PointWeight(dx, from.Latitude - p.y[i]);
+            seen[point].weight[i] = weight;
+            seen[point].step[i] =
+                static_cast<std::int32_t>(weight * dx * dx * DirectionFilter::kScale);
+        }
     }
-    const Moments<kSide> m = See(points, pX, pY, seen);
+}
+
+template <std::size_t kSide>
+ForwardSums<kSide> SumUp(std::span<const ReferencePoint> points, std::span<const Column> columns,
+                         const Places<kSide>& places, std::span<SeenPoint<kSide>> seen)
+{
+    const Moments<kSide> m = SeeAndSum(points, places, seen);
     ForwardSums<kSide> result;
     Factors<kSide> factors;
-    PixelSums<kSide> sums;
+    PixelRows<kSide>& sums = result.sum;
     for (std::size_t i = 0; i < kSide; ++i) {
         const double one = m.xx[i] * m.yy[i] - m.xy[i] * m.xy[i];
         const double x = m.y[i] * m.xy[i] - m.x[i] * m.yy[i];
@@ -135,22 +143,21 @@ ForwardSums<kSide> SumUp(std::span<const ReferencePoint> points, std::span<const
     }
     for (const Column& column : columns) {
         const std::size_t length = column.end - column.begin;
-        TakeOff<kSide>(points.subspan(column.begin, length), seen.subspan(column.begin, length), pX,
-                       pY, m, factors, sums);
+        TakeOff<kSide>(points.subspan(column.begin, length), seen.subspan(column.begin, length),
+                       places, m, factors, sums);
     }
     for (std::size_t point = 0; point < points.size(); ++point) {
-        sums.Add(seen[point], factors, pX, pY, points[point]);
-    }
-    for (std::size_t i = 0; i < kSide; ++i) {
-        result.sum[i] = {.weight = sums.weight[i], .x = sums.x[i], .y = sums.y[i]};
+        Add(sums, seen[point], factors, places, points[point]);
     }
     return result;
 }
 
+template void See(std::span<const ReferencePoint>, const Places<1>&, std::span<SeenPoint<1>>);
+template void See(std::span<const ReferencePoint>, const Places<kManySides>&,
+                  std::span<SeenPoint<kManySides>>);
 template ForwardSums<1> SumUp(std::span<const ReferencePoint>, std::span<const Column>,
-                              const std::array<PlanePoint, 1>&, std::span<SeenPoint<1>>);
+                              const Places<1>&, std::span<SeenPoint<1>>);
 template ForwardSums<kManySides> SumUp(std::span<const ReferencePoint>, std::span<const Column>,
-                                       const std::array<PlanePoint, kManySides>&,
-                                       std::span<SeenPoint<kManySides>>);
+                                       const Places<kManySides>&, std::span<SeenPoint<kManySides>>);
 
 }  // namespace map

@@ -10,13 +10,17 @@
 
 #include "map/ReferencePoint.h"
 #include "map/blend/PlanePoint.h"
-#include "map/blend/Weights.h"
 
 namespace map {
 
 // Positions side by side.
 template <std::size_t kSide>
 using Row = std::array<double, kSide>;
+
+template <std::size_t kSide>
+struct Places {
+    Row<kSide> x, y;  // longitude, latitude
+};
 
 // A reference point as seen from each position.
 template <std::size_t kSide>
@@ -25,17 +29,25 @@ struct SeenPoint {
     std::array<std::int32_t, kSide> step;  // direction, as DirectionFilter takes it
 };
 
+// WeightedPixel for each position.
 template <std::size_t kSide>
-struct ForwardSums {
-    std::array<WeightedPixel, kSide> sum;
-    std::array<bool, kSide> exact;  // false when the points nearly lie in a line or far away
+struct PixelRows {
+    Row<kSide> weight = {}, x = {}, y = {};
 };
 
-// `seen` is overwritten; it must hold as many as there are points. Compiled for 1 and kManySides.
+template <std::size_t kSide>
+struct ForwardSums {
+    PixelRows<kSide> sum;
+    std::array<bool, kSide> exact = {};  // false when the points nearly lie in a line or far away
+};
+
+// Both fill `seen`, which holds as many as there are points. Compiled for 1 and kManySides.
+template <std::size_t kSide>
+void See(std::span<const ReferencePoint> points, const Places<kSide>& places,
+         std::span<SeenPoint<kSide>> seen);
 template <std::size_t kSide>
 ForwardSums<kSide> SumUp(std::span<const ReferencePoint> points, std::span<const Column> columns,
-                         const std::array<PlanePoint, kSide>& positions,
-                         std::span<SeenPoint<kSide>> seen);
+                         const Places<kSide>& places, std::span<SeenPoint<kSide>> seen);
 
 inline constexpr std::size_t kManySides = 16;
 

@@ -11,7 +11,7 @@ namespace map {
 namespace {
 
 // Bits per base: more find fewer false candidates, but leave the processor's first cache.
-constexpr std::size_t kBitsPerBase = 64;
+constexpr std::size_t kBitsPerBase = 128;
 
 // By this much, relative to the slope and absolute for the squared cosine, rounding may part two
 // equal directions; a few units in the last place.

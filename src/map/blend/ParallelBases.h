@@ -70,7 +70,6 @@ public:
 
     // The bases whose slope is dy / dx but for rounding; none when dx is 0.
     std::span<const Base> Near(double dx, double dy) const;
-    bool HasNear(double dx, double dy) const { return !Near(dx, dy).empty(); }
 
     // All bases, by slope.
     std::span<const Base> All() const { return bases_; }

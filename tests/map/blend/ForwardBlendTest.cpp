@@ -1,9 +1,11 @@
 #include "map/blend/ForwardBlend.h"
 
+#include <array>
 #include <cmath>
 #include <cstddef>
 #include <limits>
 #include <set>
+#include <span>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -232,11 +234,10 @@ TEST(ForwardBlend, GivesNoNumberForNoPosition)
     EXPECT_TRUE(std::isfinite(blend.At({5e-324, 5e-324}).x));
 }
 
-TEST(ForwardBlend, SurvivesAnyFiniteTable)
+void SurvivesTablesOf(std::span<const double> extremes)
 {
     Random random(18);
-    const double extremes[] = {0.0, 1.0, -1e308, 1e308, 5e-324, 1e9, 1e-160, 32767.0, 1e150};
-    std::uniform_int_distribution<int> pick(0, 8);
+    std::uniform_int_distribution<std::size_t> pick(0, extremes.size() - 1);
     for (int table = 0; table < 2000; ++table) {
         std::vector<ReferencePoint> points(static_cast<std::size_t>(3 + table % 9));
         for (ReferencePoint& point : points) {
@@ -246,8 +247,8 @@ TEST(ForwardBlend, SurvivesAnyFiniteTable)
         ForwardBlend blend;
         blend.Prepare(points);
         std::vector<geo::GeoPosition> positions;
-        for (const double extreme : extremes) {
-            positions.push_back({extreme, extremes[pick(random)]});
+        for (int i = 0; i < 17; ++i) {
+            positions.push_back({extremes[pick(random)], extremes[pick(random)]});
         }
         std::vector<Pixel> pixels(positions.size());
         blend.At(positions, pixels);
@@ -259,6 +260,16 @@ TEST(ForwardBlend, SurvivesAnyFiniteTable)
             ASSERT_TRUE(std::isfinite(pixel.y)) << "table " << table;
         }
     }
+}
+
+TEST(ForwardBlend, SurvivesAnyFiniteTable)
+{
+    SurvivesTablesOf(std::array{0.0, 1.0, -1e308, 1e308, 5e-324, 1e9, 1e-160, 32767.0, 1e150, 8.5});
+}
+
+TEST(ForwardBlend, SurvivesTablesOfTheTiniestAndTheFarthestPlaces)
+{
+    SurvivesTablesOf(std::array{0.0, 1.0, -1e9, 1e9, 5e-324, 1e-150, 1e-160, 32767.0, 1e-8, 8.5});
 }
 
 TEST(ForwardBlend, PreparesTheLargestTableAtOnce)
