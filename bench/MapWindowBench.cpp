@@ -27,7 +27,7 @@
 #include "ui/map/FakeMainWindow.h"
 #include "ui/map/Gform.h"
 #include "ui/map/MapPainter.h"
-#include "ui/map/MapSurface.h"
+#include "ui/map/MapPane.h"
 
 namespace {
 
@@ -233,7 +233,7 @@ void Slowest(const char* name, ui::Gform& form, const std::function<void()>& eve
     for (int i = 0; i < 12; ++i) {
         const double seconds = bench::Seconds([&] {
             event();
-            form.Picture1->repaint();
+            form.pane->Picture1->repaint();
         });
         if (i > 1) {
             slowest = std::max(slowest, seconds);
@@ -265,14 +265,14 @@ void MeasureEvents()
     form->show();
     form->resize(form->size() - form->centralWidget()->size() + QSize(1300, 840));
     QApplication::processEvents();
-    form->Picture1->repaint();
+    form->pane->Picture1->repaint();
     const auto bar = [form](int step) {
-        form->HScroll1->setValue(500 + step % 40);
-        form->VScroll1->setValue(450 + step % 30);
+        form->pane->HScroll1->setValue(500 + step % 40);
+        form->pane->VScroll1->setValue(450 + step % 30);
     };
     bar(0);
     const auto click = [form](int step) {
-        QTest::mouseClick(form->Picture1, Qt::LeftButton, {}, QPoint(300 + step, 200));
+        QTest::mouseClick(form->pane->Picture1, Qt::LeftButton, {}, QPoint(300 + step, 200));
     };
     int step = 0;
     Slowest("scroll step", *form, [&] { bar(++step); });
@@ -303,7 +303,8 @@ void MeasureEvents()
     Trigger(*form, "MnuPicOff");
     world.state.configuration.zoomLevel = 19;
     Slowest("zoom step", *form, [&] {
-        QTest::mouseClick(++step % 2 == 0 ? form->Command1 : form->Command2, Qt::LeftButton);
+        QTest::mouseClick(++step % 2 == 0 ? form->pane->Command1 : form->pane->Command2,
+                          Qt::LeftButton);
     });
     delete form;
 }

@@ -1,9 +1,11 @@
 #include "ui/map/Gform.h"
 
+#include <optional>
 #include <utility>
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QWindow>
 
 #include "ui/map/MapPane.h"
@@ -21,38 +23,25 @@ constexpr QSize kStartSize{900, 680};
 
 Gform::Gform(app::AppState& state, MapImage& image, app::MainWindowPort& mainWindow,
              UserDialogs& dialogs)
-    : state_(state), image_(image), mainWindow_(mainWindow), dialogs_(dialogs),
-      painter_(state, image, mainWindow), mouse_(state, image, mainWindow, dialogs_, this),
-      files_(state, image, dialogs_, this)
+    : pane(new MapPane(state, image, mainWindow, view_, this)), state_(state),
+      mainWindow_(mainWindow), dialogs_(dialogs),
+      commands_(state, image, dialogs_, view_, *pane, *this,
+                [this] { activatingPress_.ForgetClip(); }),
+      mouse_(state, image, mainWindow, dialogs_, this)
 {
     setObjectName(u"Gform"_s);
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(u"Form1"_s);
-    pane_ = new MapPane(
-        state_, image_, painter_, view_, [this](plot::SurfacePoint point) { return HintAt(point); },
-        this);
-    setCentralWidget(pane_);
-    Command1 = pane_->Command1;
-    Command2 = pane_->Command2;
-    List1 = pane_->List1;
-    HScroll1 = pane_->HScroll1;
-    VScroll1 = pane_->VScroll1;
-    Picture1 = pane_->Picture1;
-    connect(Picture1, &MapSurface::Pressed, this, &Gform::Press);
-    connect(Picture1, &MapSurface::Clicked, this, &Gform::Click);
-    connect(Picture1, &MapSurface::customContextMenuRequested, this, &Gform::OfferClickModes);
-    connect(pane_, &MapPane::ClipMoved, this, [this] { activatingPress_.ForgetClip(); });
-    AddMenus();
+    setCentralWidget(pane);
+    connect(pane->Picture1, &MapSurface::Pressed, this, &Gform::Press);
+    connect(pane->Picture1, &MapSurface::Clicked, this, &Gform::Click);
+    connect(pane->Picture1, &MapSurface::customContextMenuRequested, this, &Gform::OfferClickModes);
+    connect(pane, &MapPane::ClipMoved, this, [this] { activatingPress_.ForgetClip(); });
     resize(kStartSize);
 
-    SetLabelChoice(state_.configuration.labelChoice);
-    ShowSwitches();
-    ShowReferenceMode();
-    SetClickMode(app::ClickMode::Nop);
-    SetImageMode(state_.map.mapImage && !image_.Empty());
-    pane_->Layout();
-    Redraw();
-    Picture1->setFocus();
+    state_.map.clickMode = app::ClickMode::Nop;
+    commands_.SetImageMode(state_.map.mapImage && !image.Empty());
+    pane->Picture1->setFocus();
 
     // Another window in between: then coming back is an activation, dialogs or not.
     connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* window) {
@@ -62,16 +51,11 @@ Gform::Gform(app::AppState& state, MapImage& image, app::MainWindowPort& mainWin
     });
 }
 
-void Gform::Redraw() const
-{
-    pane_->Redraw();
-}
-
 void Gform::AutoRedraw()
 {
     if (state_.configuration.autoRedraw) {
         mainWindow_.S1S2_Update();
-        Redraw();
+        pane->Redraw();
     }
 }
 
@@ -92,12 +76,12 @@ void Gform::Activate()
     const plot::SurfacePoint shown = view_.clipOrigin;
     const std::optional<std::size_t> pressed = activatingPress_.PointsBeforePress();
     if (state_.map.mapImage && !pressed) {
-        pane_->ScrollTo({});
+        pane->ScrollTo({});
     }
     mainWindow_.S1S2_Update();
-    pane_->Layout();
+    pane->Layout();
     view_.route.RemoveFirst(pressed.value_or(view_.route.Count()));
-    Redraw();
+    pane->Redraw();
     if (!pressed) {
         activatingPress_.Activated(shown);
     }
@@ -108,21 +92,48 @@ void Gform::keyPressEvent(QKeyEvent* event)
     constexpr int kScrollStep = MapPane::kScrollStep;
     const bool map = state_.map.mapImage;
     switch (event->key()) {
-    case Qt::Key_Plus: map ? event->ignore() : pane_->ZoomIn(); return;
-    case Qt::Key_Minus: map ? event->ignore() : pane_->ZoomOut(); return;
-    case Qt::Key_Left: pane_->Scroll(-kScrollStep, 0); return;
-    case Qt::Key_Right: pane_->Scroll(kScrollStep, 0); return;
-    case Qt::Key_Up: pane_->Scroll(0, -kScrollStep); return;
-    case Qt::Key_Down: pane_->Scroll(0, kScrollStep); return;
+    case Qt::Key_Plus: map ? event->ignore() : pane->ZoomIn(); return;
+    case Qt::Key_Minus: map ? event->ignore() : pane->ZoomOut(); return;
+    case Qt::Key_Left: pane->Scroll(-kScrollStep, 0); return;
+    case Qt::Key_Right: pane->Scroll(kScrollStep, 0); return;
+    case Qt::Key_Up: pane->Scroll(0, -kScrollStep); return;
+    case Qt::Key_Down: pane->Scroll(0, kScrollStep); return;
     case Qt::Key_Escape:
-        if (pane_->List1->Unfolded()) {
-            Picture1->setFocus();
+        if (pane->List1->Unfolded()) {
+            pane->Picture1->setFocus();
             return;
         }
         break;
     default: break;
     }
     QMainWindow::keyPressEvent(event);
+}
+
+void Gform::OfferClickModes(QPoint point)
+{
+    if (state_.map.mapImage) {
+        findChild<QMenu*>(u"MnuClk"_s)->popup(pane->Picture1->mapToGlobal(point));
+    }
+}
+
+void Gform::Press(plot::SurfacePoint point)
+{
+    if (!state_.map.mapImage) {
+        return;
+    }
+    if (!isActiveWindow()) {
+        activatingPress_.PressedInactive(view_.route.Count());
+    } else if (const std::optional<plot::SurfacePoint> clip = activatingPress_.ClipPressed()) {
+        pane->ScrollTo(*clip);
+    }
+    setWindowTitle(mouse_.Press(point, view_.clipOrigin));
+}
+
+void Gform::Click()
+{
+    if (state_.map.mapImage && mouse_.Click(view_)) {
+        commands_.Show();
+    }
 }
 
 }  // namespace ui

@@ -1,229 +1,165 @@
-// The menus of the map window as tables, and their states.
+#include "ui/map/MapMenus.h"
 
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
 
 #include "ui/Controls.h"
-#include "ui/map/Gform.h"
-#include "ui/map/MapPane.h"
+#include "ui/map/MapCommands.h"
+#include "ui/map/MapPainter.h"
 
 namespace ui {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr const char* kLabelItems[] = {"MnuRZ1", "MnuRZ2", "MnuRZ3", "MnuRZ4", "MnuRZ5"};
-
-struct ClickItem {
-    app::ClickMode mode;
-    const char* name;
-};
-
-constexpr ClickItem kClickItems[] = {
-    {app::ClickMode::Nop, "MnuNop"},
-    {app::ClickMode::SetStation1, "MnuSet1"},
-    {app::ClickMode::SetStation2, "MnuSet2"},
-    {app::ClickMode::AddLandmark, "MnuAddLand"},
-    {app::ClickMode::Station2AsReference, "MnuS2Ref"},
-    {app::ClickMode::DeleteReference, "MnuRefClr"},
-    {app::ClickMode::RouteStart, "MnuRouS"},
-    {app::ClickMode::RouteContinue, "MnuRouF"},
-};
-
-}  // namespace
-
-void Gform::AddMenus()
+MapMenus::MapMenus(QMainWindow& window, app::AppState& state, plot::MapView& view,
+                   MapCommands& commands, std::function<void()> before)
+    : window_(window), state_(state), view_(view), commands_(commands), before_(std::move(before))
 {
     AddFileMenu();
     AddDisplayMenu();
     AddEditMenu();
     AddClickMenu();
-    Item("MnuSel")->setChecked(view_.showMarked);
-    Item("MnuAlle")->setChecked(view_.showUnmarked);
 }
 
-QMenu* Gform::NewMenu(const char* name, const QString& caption)
+void MapMenus::Show() const
 {
-    return Named(menuBar()->addMenu(caption), QLatin1StringView(name));
-}
-
-void Gform::AddItems(QMenu* menu, std::initializer_list<MenuItem> items)
-{
-    ui::AddItems(menu, items, [this] { activatingPress_.ForgetClip(); });
-}
-
-void Gform::AddFileMenu()
-{
-    AddItems(NewMenu("MnuDatei", u"Datei"_s),
-             {
-                 {"MnuGLoad", u"Landkarte laden"_s, [this](bool) { LoadMap(); }},
-                 {"MnuPicOff", u"Winkeltreue Darstellung"_s, [this](bool) { LeaveMap(); }},
-                 {"MnuMin1"},
-                 {"MnuClose", u"schliessen"_s, [this](bool) { close(); }},
-             });
-}
-
-void Gform::AddDisplayMenu()
-{
-    const auto marks = [this](const char* name, const QString& caption,
-                              bool plot::MapView::*shown) {
-        return MenuItem{name, caption,
-                        [this, shown](bool on) {
-                            view_.*shown = on;
-                            Redraw();
-                        },
-                        true};
-    };
-    using stations::LabelChoice;
-    const auto label = [this](LabelChoice choice, const QString& caption) {
-        return MenuItem{kLabelItems[static_cast<std::size_t>(choice)], caption,
-                        [this, choice](bool) {
-                            SetLabelChoice(choice);
-                            Redraw();
-                        },
-                        true};
-    };
-    const auto check = [this](const char* name, const QString& caption,
-                              bool stations::Configuration::*shown) {
-        return MenuItem{name, caption, [this, shown](bool on) { Toggle(shown, on); }, true};
-    };
-    using Switches = stations::Configuration;
-    AddItems(
-        NewMenu("MnuAnz", u"Anzeige"_s),
-        {
-            marks("MnuSel", u"ausgewählte Stationen"_s, &plot::MapView::showMarked),
-            marks("MnuAlle", u"nicht ausgewählte Stationen"_s, &plot::MapView::showUnmarked),
-            {"MnuMin17"},
-            label(LabelChoice::Callsign, u"Rufzeichen"_s),
-            label(LabelChoice::Name, u"Name"_s),
-            label(LabelChoice::Place, u"Ort"_s),
-            label(LabelChoice::Frequency, u"Frequenz"_s),
-            label(LabelChoice::Remark, u"Anmerkung"_s),
-            {"MnuMin10"},
-            check("MnuS1Anz", u"Station 1"_s, &Switches::showStation1),
-            check("MnuS2Anz", u"Station 2"_s, &Switches::showStation2),
-            {"MnuMin13"},
-            check("MnuRef", u"Referenzpunkte"_s, &Switches::showReferencePoints),
-            {"MnuMin11"},
-            check("MnuOptAusg", u"Optimierte Ausgabe"_s, &Switches::optimisedOutput),
-            check("MnuOptAnzg", u"Optimierte Koordinatenanzeige"_s, &Switches::optimisedDisplay),
-            {"MnuMin12"},
-            {"MnuRast", u"Rasteranzeige"_s, [this](bool on) { ToggleGrid(on); }, true},
-            {"MnuMin14"},
-            {"MnuEig", u"Eigenschaften"_s, [this](bool) { pane_->ShowProperties(); }},
-        });
-}
-
-void Gform::AddEditMenu()
-{
-    QMenu* const menu = NewMenu("MnuBearb", u"Bearbeiten"_s);
-    AddItems(menu, {
-                       {"MnuStoJ", u"Justage speichern"_s, [this](bool) { SaveAdjustment(); }},
-                       {"MnuMin21"},
-                       {"MnuClrAll", u"alle Referenzpunkte löschen"_s,
-                        [this](bool) { ClearAllReferences(); }},
-                       {"MnuClrLast", u"letzten Referenzpunkt löschen"_s,
-                        [this](bool) { ClearLastReference(); }},
-                       {"MnuMin15"},
-                   });
-    AddItems(
-        Named(menu->addMenu(u"UI-View Maps"_s), u"MnuUIView"_s),
-        {
-            {"MnuRefInf", u"Referenz aus INF erzeugen"_s, [this](bool) { ReferencesFromBounds(); }},
-            {"MnuInf", u"UI-View INF File erzeugen"_s, [this](bool) { SaveCalibration(); }},
-        });
-}
-
-void Gform::AddClickMenu()
-{
-    const auto click = [this](app::ClickMode mode, const char* name, const QString& caption) {
-        return MenuItem{name, caption, [this, mode](bool) { SetClickMode(mode); }, true};
-    };
-    using Mode = app::ClickMode;
-    AddItems(NewMenu("MnuClk", u"Click"_s),
-             {
-                 click(Mode::Nop, "MnuNop", u"(nop)"_s),
-                 click(Mode::SetStation1, "MnuSet1", u"Setze Station 1"_s),
-                 click(Mode::SetStation2, "MnuSet2", u"Setze Station 2"_s),
-                 click(Mode::AddLandmark, "MnuAddLand", u"Add Landmark"_s),
-                 click(Mode::Station2AsReference, "MnuS2Ref", u"Station 2 als Referenz setzen"_s),
-                 click(Mode::DeleteReference, "MnuRefClr", u"Referenz löschen"_s),
-                 click(Mode::RouteStart, "MnuRouS", u"Route starten"_s),
-                 {"MnuRouF", u"Route fortsetzen"_s, [this](bool) { ContinueRoute(); }, true},
-             });
-}
-
-QAction* Gform::Item(const char* name) const
-{
-    return findChild<QAction*>(QLatin1StringView(name));
-}
-
-void Gform::ShowSwitches()
-{
-    const stations::Configuration& shown = state_.configuration;
-    Item("MnuRef")->setChecked(shown.showReferencePoints);
-    Item("MnuS1Anz")->setChecked(shown.showStation1);
-    Item("MnuS2Anz")->setChecked(shown.showStation2);
-    Item("MnuOptAnzg")->setChecked(shown.optimisedDisplay);
-    Item("MnuOptAusg")->setChecked(shown.optimisedOutput);
-}
-
-void Gform::SetImageMode(bool on)
-{
-    state_.map.mapImage = on;
-    pane_->SetImageMode(on);
-    for (const char* const name : {"MnuClk", "MnuBearb"}) {
-        findChild<QMenu*>(QLatin1StringView(name))->menuAction()->setEnabled(on);
+    for (const auto& [name, marked] : marks_) {
+        Item(name)->setChecked(marked());
     }
-    Item("MnuPicOff")->setEnabled(on);
-    SetClickMode(state_.map.clickMode);  // for the pointer's form
-}
-
-void Gform::SetReferenceMode(bool on)
-{
-    state_.map.references.SetReferenceMode(on);
-    ShowReferenceMode();
-}
-
-void Gform::ShowReferenceMode()
-{
-    const bool on = state_.map.references.ReferenceMode();
     for (const char* const name : {"MnuRast", "MnuRef", "MnuOptAusg", "MnuOptAnzg"}) {
-        Item(name)->setEnabled(on);
+        Item(name)->setEnabled(state_.map.references.ReferenceMode());
     }
-    if (on) {
-        Item("MnuRast")->setChecked(false);
-        view_.grid.reset();
+    for (const char* const name : {"MnuClk", "MnuBearb"}) {
+        window_.findChild<QMenu*>(QLatin1StringView(name))
+            ->menuAction()
+            ->setEnabled(state_.map.mapImage);
     }
+    Item("MnuPicOff")->setEnabled(state_.map.mapImage);
 }
 
-void Gform::SetClickMode(app::ClickMode mode)
+QAction* MapMenus::Item(const char* name) const
 {
-    state_.map.clickMode = mode;
-    for (const ClickItem& item : kClickItems) {
-        Item(item.name)->setChecked(item.mode == mode);
-    }
-    const bool acts = state_.map.mapImage && mode != app::ClickMode::Nop;
-    Picture1->setCursor(acts ? Qt::CrossCursor : Qt::ArrowCursor);
-    Redraw();
+    return window_.findChild<QAction*>(QLatin1StringView(name));
 }
 
-void Gform::SetLabelChoice(stations::LabelChoice choice)
+QMenu* MapMenus::AddMenu(const char* name, const QString& caption,
+                         std::initializer_list<MenuItem> items)
 {
-    state_.configuration.labelChoice = choice;
-    const auto counted = static_cast<std::size_t>(CountedLabelChoice(choice));
-    for (std::size_t i = 0; i < std::size(kLabelItems); ++i) {
-        Item(kLabelItems[i])->setChecked(i == counted);
-    }
+    QMenu* const menu = Named(window_.menuBar()->addMenu(caption), QLatin1StringView(name));
+    AddItems(menu, items, before_);
+    return menu;
 }
 
-void Gform::OfferClickModes(QPoint point)
+MenuItem MapMenus::Marked(const char* name, const QString& caption,
+                          std::function<void(bool)> command, std::function<bool()> marked)
 {
-    if (state_.map.mapImage) {
-        findChild<QMenu*>(u"MnuClk"_s)->popup(Picture1->mapToGlobal(point));
-    }
+    marks_.emplace_back(name, std::move(marked));
+    return {name, caption, std::move(command), true};
+}
+
+MenuItem MapMenus::Switch(const char* name, const QString& caption, bool& on)
+{
+    return Marked(
+        name, caption, [this, &on](bool checked) { commands_.Set(on, checked); },
+        [&on] { return on; });
+}
+
+void MapMenus::AddFileMenu()
+{
+    AddMenu("MnuDatei", u"Datei"_s,
+            {
+                {"MnuGLoad", u"Landkarte laden"_s, [this](bool) { commands_.LoadMap(); }},
+                {"MnuPicOff", u"Winkeltreue Darstellung"_s, [this](bool) { commands_.LeaveMap(); }},
+                {"MnuMin1"},
+                {"MnuClose", u"schliessen"_s, [this](bool) { window_.close(); }},
+            });
+}
+
+void MapMenus::AddDisplayMenu()
+{
+    using stations::LabelChoice;
+    stations::Configuration& shown = state_.configuration;
+    const auto label = [this, &choice = shown.labelChoice](const char* name, const QString& caption,
+                                                           LabelChoice value) {
+        return Marked(
+            name, caption, [this, &choice, value](bool) { commands_.Set(choice, value); },
+            [&choice, value] { return CountedLabelChoice(choice) == value; });
+    };
+    AddMenu("MnuAnz", u"Anzeige"_s,
+            {
+                Switch("MnuSel", u"ausgewählte Stationen"_s, view_.showMarked),
+                Switch("MnuAlle", u"nicht ausgewählte Stationen"_s, view_.showUnmarked),
+                {"MnuMin17"},
+                label("MnuRZ1", u"Rufzeichen"_s, LabelChoice::Callsign),
+                label("MnuRZ2", u"Name"_s, LabelChoice::Name),
+                label("MnuRZ3", u"Ort"_s, LabelChoice::Place),
+                label("MnuRZ4", u"Frequenz"_s, LabelChoice::Frequency),
+                label("MnuRZ5", u"Anmerkung"_s, LabelChoice::Remark),
+                {"MnuMin10"},
+                Switch("MnuS1Anz", u"Station 1"_s, shown.showStation1),
+                Switch("MnuS2Anz", u"Station 2"_s, shown.showStation2),
+                {"MnuMin13"},
+                Switch("MnuRef", u"Referenzpunkte"_s, shown.showReferencePoints),
+                {"MnuMin11"},
+                Switch("MnuOptAusg", u"Optimierte Ausgabe"_s, shown.optimisedOutput),
+                Switch("MnuOptAnzg", u"Optimierte Koordinatenanzeige"_s, shown.optimisedDisplay),
+                {"MnuMin12"},
+                Marked(
+                    "MnuRast", u"Rasteranzeige"_s, [this](bool on) { commands_.ToggleGrid(on); },
+                    [this] { return view_.grid.has_value(); }),
+                {"MnuMin14"},
+                {"MnuEig", u"Eigenschaften"_s, [this](bool) { commands_.ShowProperties(); }},
+            });
+}
+
+void MapMenus::AddEditMenu()
+{
+    QMenu* const menu = AddMenu(
+        "MnuBearb", u"Bearbeiten"_s,
+        {
+            {"MnuStoJ", u"Justage speichern"_s, [this](bool) { commands_.SaveAdjustment(); }},
+            {"MnuMin21"},
+            {"MnuClrAll", u"alle Referenzpunkte löschen"_s,
+             [this](bool) { commands_.ClearAllReferences(); }},
+            {"MnuClrLast", u"letzten Referenzpunkt löschen"_s,
+             [this](bool) { commands_.ClearLastReference(); }},
+            {"MnuMin15"},
+        });
+    AddItems(Named(menu->addMenu(u"UI-View Maps"_s), u"MnuUIView"_s),
+             {
+                 {"MnuRefInf", u"Referenz aus INF erzeugen"_s,
+                  [this](bool) { commands_.ReferencesFromBounds(); }},
+                 {"MnuInf", u"UI-View INF File erzeugen"_s,
+                  [this](bool) { commands_.SaveCalibration(); }},
+             },
+             before_);
+}
+
+void MapMenus::AddClickMenu()
+{
+    using Mode = app::ClickMode;
+    const auto marked = [&mode = state_.map.clickMode](Mode value) {
+        return [&mode, value] { return mode == value; };
+    };
+    const auto click = [&](const char* name, const QString& caption, Mode mode) {
+        return Marked(
+            name, caption, [this, mode](bool) { commands_.Set(state_.map.clickMode, mode); },
+            marked(mode));
+    };
+    AddMenu("MnuClk", u"Click"_s,
+            {
+                click("MnuNop", u"(nop)"_s, Mode::Nop),
+                click("MnuSet1", u"Setze Station 1"_s, Mode::SetStation1),
+                click("MnuSet2", u"Setze Station 2"_s, Mode::SetStation2),
+                click("MnuAddLand", u"Add Landmark"_s, Mode::AddLandmark),
+                click("MnuS2Ref", u"Station 2 als Referenz setzen"_s, Mode::Station2AsReference),
+                click("MnuRefClr", u"Referenz löschen"_s, Mode::DeleteReference),
+                click("MnuRouS", u"Route starten"_s, Mode::RouteStart),
+                Marked(
+                    "MnuRouF", u"Route fortsetzen"_s, [this](bool) { commands_.ContinueRoute(); },
+                    marked(Mode::RouteContinue)),
+            });
 }
 
 }  // namespace ui

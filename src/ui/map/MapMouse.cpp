@@ -83,31 +83,31 @@ void MapMouse::SetStation(int station)
     mainWindow_.S1S2_Update();
 }
 
-ClickResult MapMouse::AddLandmark()
+bool MapMouse::AddLandmark()
 {
     const geo::GeoPosition position = ClickedPosition();
     const base::NumberFormat& format = state_.numberFormat;
     const stations::StationTexts texts = TextsOf("LM" + format(landmarks_ + 1.0, "000"));
     if (!AppendRecord(window_, state_, dialogs_,
                       stations::BuildRecord(texts, position, texts.date))) {
-        return {};
+        return false;
     }
     ++landmarks_;
     TellWriteError(window_, dialogs_, mainWindow_.TakeDatabaseChange(),
                    state_.configuration.workingFile);
-    return {.redraw = true};
+    return true;
 }
 
-ClickResult MapMouse::AddReference()
+bool MapMouse::AddReference(plot::MapView& view)
 {
     const geo::GeoPosition station2 = state_.shown.position[1];
     if (!IsFinite(station2)) {
         dialogs_.Inform(window_, {},
                         u"Station 2 hat keine Position: Sie wird nicht als Referenz gesetzt!"_s);
-        return {};
+        return false;
     }
     switch (state_.map.references.AddStation2Reference(x_, y_, station2)) {
-    case map::AddResult::Added: return {.redraw = true, .referenceAdded = true, .nextMode = {}};
+    case map::AddResult::Added: view.grid.reset(); return true;
     case map::AddResult::Duplicate:
         dialogs_.Inform(window_, {}, u"Diese Referenz existiert bereits!"_s);
         break;
@@ -115,28 +115,29 @@ ClickResult MapMouse::AddReference()
         dialogs_.Inform(window_, {}, u"Mehr Referenzpunkte fasst die Karte nicht."_s);
         break;
     }
-    return {};
+    return false;
 }
 
-ClickResult MapMouse::Click(plot::Route& route)
+bool MapMouse::Click(plot::MapView& view)
 {
     switch (state_.map.clickMode) {
-    case app::ClickMode::Nop: return {};
-    case app::ClickMode::SetStation1: SetStation(0); return {.redraw = true};
-    case app::ClickMode::SetStation2: SetStation(1); return {.redraw = true};
+    case app::ClickMode::Nop: return false;
+    case app::ClickMode::SetStation1: SetStation(0); break;
+    case app::ClickMode::SetStation2: SetStation(1); break;
     case app::ClickMode::AddLandmark: return AddLandmark();
-    case app::ClickMode::Station2AsReference: return AddReference();
+    case app::ClickMode::Station2AsReference: return AddReference(view);
     case app::ClickMode::DeleteReference:
         state_.map.references.DeleteNearestReference(x_, y_);
-        return {.redraw = true};
+        break;
     case app::ClickMode::RouteStart:
-        route.Append({.pen = plot::Pen::Up, .position = ClickedPosition()});
-        return {.redraw = true, .referenceAdded = false, .nextMode = app::ClickMode::RouteContinue};
+        view.route.Append({.pen = plot::Pen::Up, .position = ClickedPosition()});
+        state_.map.clickMode = app::ClickMode::RouteContinue;
+        break;
     case app::ClickMode::RouteContinue:
-        route.Append({.pen = plot::Pen::Down, .position = ClickedPosition()});
-        return {.redraw = true};
+        view.route.Append({.pen = plot::Pen::Down, .position = ClickedPosition()});
+        break;
     }
-    return {};
+    return true;
 }
 
 }  // namespace ui

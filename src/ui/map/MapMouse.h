@@ -3,12 +3,10 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 
 #include "app/AppState.h"
 #include "app/MainWindowPort.h"
-#include "plot/PlotPosition.h"
-#include "plot/Route.h"
+#include "plot/MapView.h"
 #include "ui/map/MapImage.h"
 
 class QString;
@@ -17,13 +15,6 @@ class QWidget;
 namespace ui {
 
 class UserDialogs;
-
-// What the window has to do after a click.
-struct ClickResult {
-    bool redraw = false;
-    bool referenceAdded = false;                  // the reference mode is on now
-    std::optional<app::ClickMode> nextMode = {};  // to be set
-};
 
 class MapMouse {
 public:
@@ -34,8 +25,9 @@ public:
     // the window's caption: latitude and longitude in degrees and minutes.
     QString Press(plot::SurfacePoint point, plot::SurfacePoint clipOrigin);
 
-    // Map view: does what the click mode says with the pixel captured last.
-    ClickResult Click(plot::Route& route);
+    // Map view: does what the click mode says with the pixel captured last. True when the window
+    // has something to show.
+    bool Click(plot::MapView& view);
 
 private:
     // The position of the captured pixel, as exact as the switch allows; sets the deviation.
@@ -46,8 +38,8 @@ private:
 
     stations::StationTexts TextsOf(const std::string& callsign) const;
     void SetStation(int station);
-    ClickResult AddLandmark();
-    ClickResult AddReference();
+    bool AddLandmark();
+    bool AddReference(plot::MapView& view);  // adds Station 2; a grid through the old ones goes
 
     app::AppState& state_;
     const MapImage& image_;

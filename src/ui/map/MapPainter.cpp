@@ -199,12 +199,11 @@ void MapPainter::CollectMarkers(const plot::MapView& view)
     const stations::Configuration& configuration = state_.configuration;
     const stations::Field field = LabelField(configuration.labelChoice);
     const bool shown[] = {configuration.showStation1, configuration.showStation2};
-    for (const std::size_t station : {0U, 1U}) {
+    for (const std::uint32_t station : {0U, 1U}) {
         if (shown[station]) {
             AddMarker(view, Plot(view, state_.shown.position[station]),
                       layer_.Number(state_.shown.record[station].Bytes(field)),
-                      {.kind = station == 0 ? MarkerSource::Kind::Station1
-                                            : MarkerSource::Kind::Station2});
+                      {.kind = MarkerSource::Kind::Station, .index = station});
         }
     }
     const map::ReferenceTable& table = state_.map.references;

@@ -30,9 +30,9 @@ stations::LabelChoice CountedLabelChoice(stations::LabelChoice stored);
 
 // Whom a marker stands for.
 struct MarkerSource {
-    enum class Kind : std::uint8_t { Record, Station1, Station2, Reference };
+    enum class Kind : std::uint8_t { Record, Station, Reference };
     Kind kind = Kind::Record;
-    std::uint32_t index = 0;  // of the record or the reference point
+    std::uint32_t index = 0;  // of the record, the station or the reference point
 };
 
 class MapPainter {

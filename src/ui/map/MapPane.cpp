@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <utility>
 
 #include <QPushButton>
 #include <QScrollBar>
@@ -11,6 +10,7 @@
 #include "plot/ZoomLevels.h"
 #include "ui/Controls.h"
 #include "ui/FileNameText.h"
+#include "ui/map/MapHint.h"
 #include "ui/map/MapProperties.h"
 #include "ui/map/PropertiesList.h"
 
@@ -26,9 +26,9 @@ constexpr int kNotch = 120;  // eighths of a degree in one notch of the wheel
 
 }  // namespace
 
-MapPane::MapPane(app::AppState& state, const MapImage& image, MapPainter& painter,
-                 plot::MapView& view, MapSurface::Hint hint, QWidget* parent)
-    : QWidget(parent), state_(state), image_(image), view_(view)
+MapPane::MapPane(app::AppState& state, const MapImage& image, const app::MainWindowPort& mainWindow,
+                 plot::MapView& view, QWidget* parent)
+    : QWidget(parent), state_(state), image_(image), view_(view), painter_(state, image, mainWindow)
 {
     Command2 =
         NewButton(u"Command2"_s, u"OUT"_s, u"Ansicht verkleinern (Taste −)"_s, &MapPane::ZoomOut);
@@ -37,10 +37,14 @@ MapPane::MapPane(app::AppState& state, const MapImage& image, MapPainter& painte
     HScroll1 = NewBar(Qt::Horizontal, u"HScroll1"_s, u"Bildausschnitt waagerecht"_s);
     VScroll1 = NewBar(Qt::Vertical, u"VScroll1"_s, u"Bildausschnitt senkrecht"_s);
 
-    const auto draw = [this, &painter](QImage& frame, qreal scale) {
-        painter.Redraw(frame, view_, scale, palette().color(QPalette::Active, QPalette::Highlight));
+    const auto draw = [this](QImage& frame, qreal scale) {
+        painter_.Redraw(frame, view_, scale,
+                        palette().color(QPalette::Active, QPalette::Highlight));
     };
-    Picture1 = Named(new MapSurface(draw, std::move(hint), this), u"Picture1"_s);
+    const auto hint = [this](plot::SurfacePoint point) {
+        return HintAt(state_, painter_, view_, point);
+    };
+    Picture1 = Named(new MapSurface(draw, hint, this), u"Picture1"_s);
     Picture1->setAccessibleName(u"Kartenfläche"_s);
     Picture1->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(Picture1, &MapSurface::Turned, this, &MapPane::Turn);

@@ -22,10 +22,10 @@ class MapPane : public QWidget {
     Q_OBJECT
 
 public:
-    // `state`, `image`, `painter` and `view` outlive the pane, which keeps the surface and the clip
-    // of `view`.
-    MapPane(app::AppState& state, const MapImage& image, MapPainter& painter, plot::MapView& view,
-            MapSurface::Hint hint, QWidget* parent);
+    // `state`, `image`, `mainWindow` and `view` outlive the pane, which keeps the surface and the
+    // clip of `view`.
+    MapPane(app::AppState& state, const MapImage& image, const app::MainWindowPort& mainWindow,
+            plot::MapView& view, QWidget* parent);
 
     void SetImageMode(bool on);
     void Layout();
@@ -64,6 +64,7 @@ private:
     app::AppState& state_;
     const MapImage& image_;
     plot::MapView& view_;
+    MapPainter painter_;
     QPoint turned_;  // of the wheel, not yet acted upon
 };
 

@@ -16,8 +16,8 @@ protected:
     {
         Open(480, 320);
         LoadMap(MapFile(1000, 800));
-        form->HScroll1->setValue(300);
-        form->VScroll1->setValue(200);
+        form->pane->HScroll1->setValue(300);
+        form->pane->VScroll1->setValue(200);
         Choose("MnuRouS");
         ClickAt(10, 10);
         ClickAt(20, 20);
@@ -47,7 +47,7 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
     }
 
-    QPoint Clip() const { return {form->HScroll1->value(), form->VScroll1->value()}; }
+    QPoint Clip() const { return {form->pane->HScroll1->value(), form->pane->VScroll1->value()}; }
 
     // Choosing the item asks whether there is a route.
     bool RouteIsEmpty() const
@@ -68,8 +68,9 @@ TEST_F(ActivatingPressTest, ActsOnThePixelThatWasShownUnderIt)
 
 TEST_F(ActivatingPressTest, ActsOnThePixelThatWasShownUnderItWhenTheActivationComesBehind)
 {
-    WhileAway([this] { QTest::mousePress(form->Picture1, Qt::LeftButton, {}, QPoint(50, 60)); });
-    QTest::mouseRelease(form->Picture1, Qt::LeftButton, {}, QPoint(50, 60));
+    WhileAway(
+        [this] { QTest::mousePress(form->pane->Picture1, Qt::LeftButton, {}, QPoint(50, 60)); });
+    QTest::mouseRelease(form->pane->Picture1, Qt::LeftButton, {}, QPoint(50, 60));
     EXPECT_EQ(mainWindow.panel[0].place, "X/Y: 350 260");
     EXPECT_EQ(Clip(), QPoint(300, 200));
     EXPECT_EQ(mainWindow.calls,
@@ -115,7 +116,7 @@ TEST_F(ActivatingPressTest, APressWithoutActivationDoesNotCountForALaterOne)
 TEST_F(ActivatingPressTest, WhatScrollsOrIsChosenAfterTheActivationCounts)
 {
     Activate();
-    form->HScroll1->setValue(40);
+    form->pane->HScroll1->setValue(40);
     ClickAt(50, 60);
     EXPECT_EQ(mainWindow.panel[0].place, "X/Y: 90 60");
     Activate();
@@ -128,8 +129,8 @@ TEST_F(ActivatingPressTest, OnlyTheFirstPressIsTheActivatingOne)
 {
     Activate();
     ClickAt(50, 60);
-    form->HScroll1->setValue(0);
-    form->VScroll1->setValue(0);
+    form->pane->HScroll1->setValue(0);
+    form->pane->VScroll1->setValue(0);
     ClickAt(50, 60);
     EXPECT_EQ(mainWindow.panel[0].place, "X/Y: 50 60");
 }

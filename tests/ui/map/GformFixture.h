@@ -21,7 +21,8 @@
 #include "ui/ScriptedDialogs.h"
 #include "ui/map/FakeMainWindow.h"
 #include "ui/map/Gform.h"
-#include "ui/map/MapSurface.h"
+#include "ui/map/MapPane.h"
+#include "ui/map/PropertiesList.h"
 
 namespace ui {
 
@@ -99,13 +100,13 @@ protected:
 
     void ClickAt(int x, int y, Qt::MouseButton button = Qt::LeftButton) const
     {
-        QTest::mouseClick(form->Picture1, button, {}, QPoint(x, y));
+        QTest::mouseClick(form->pane->Picture1, button, {}, QPoint(x, y));
     }
 
     // The surface as it is on the screen.
     QImage Picture() const
     {
-        return form->Picture1->grab().toImage().convertToFormat(QImage::Format_RGB32);
+        return form->pane->Picture1->grab().toImage().convertToFormat(QImage::Format_RGB32);
     }
 
     void AddRecord(geo::GeoPosition position, const char* callsign)

@@ -196,8 +196,8 @@ TEST_F(GformMenuTest, ViewsHaveTheirMenus)
         EXPECT_EQ(form->findChild<QMenu*>(u"MnuClk"_s)->menuAction()->isEnabled(), map);
         EXPECT_EQ(form->findChild<QMenu*>(u"MnuBearb"_s)->menuAction()->isEnabled(), map);
         EXPECT_EQ(Item("MnuPicOff")->isEnabled(), map);
-        EXPECT_EQ(form->Command1->isVisible(), !map);
-        EXPECT_EQ(form->Command2->isVisible(), !map);
+        EXPECT_EQ(form->pane->Command1->isVisible(), !map);
+        EXPECT_EQ(form->pane->Command2->isVisible(), !map);
     };
     expectMap(false);
     LoadMap(MapFile(400, 300));
@@ -290,10 +290,10 @@ TEST_F(GformMenuTest, SurfaceOffersTheClickModes)
 {
     Open();
     auto* const menu = form->findChild<QMenu*>(u"MnuClk"_s);
-    emit form->Picture1->customContextMenuRequested(QPoint(5, 5));
+    emit form->pane->Picture1->customContextMenuRequested(QPoint(5, 5));
     EXPECT_FALSE(menu->isVisible()) << "nothing acts in the polar view";
     LoadMap(MapFile(400, 300));
-    emit form->Picture1->customContextMenuRequested(QPoint(5, 5));
+    emit form->pane->Picture1->customContextMenuRequested(QPoint(5, 5));
     EXPECT_TRUE(menu->isVisible());
     menu->close();
 }
@@ -301,7 +301,7 @@ TEST_F(GformMenuTest, SurfaceOffersTheClickModes)
 TEST_F(GformMenuTest, PointerTellsWhetherAClickActs)
 {
     Open();
-    const auto shape = [this] { return form->Picture1->cursor().shape(); };
+    const auto shape = [this] { return form->pane->Picture1->cursor().shape(); };
     EXPECT_EQ(shape(), Qt::ArrowCursor);
     LoadMap(MapFile(400, 300));
     EXPECT_EQ(shape(), Qt::ArrowCursor);

@@ -61,7 +61,7 @@ TEST_F(GformRedrawTest, MarkedAndUnmarkedStationsHaveAnItemEach)
     state.configuration.showStation2 = false;
     Choose("MnuClrAll");
     state.map.edges = {.left = 10.9, .right = 11.3, .upper = 48.3, .lower = 47.9};
-    form->Redraw();
+    form->pane->Redraw();
     const auto shown = [this](std::size_t record) {
         // The frame of a symbol, on its plate, in the ink of the map.
         const geo::GeoPosition position = state.database[record].Position();

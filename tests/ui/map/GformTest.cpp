@@ -12,14 +12,14 @@ using namespace Qt::StringLiterals;
 
 class GformTest : public GformFixture {
 protected:
-    QRect Surface() const { return form->Picture1->geometry(); }
+    QRect Surface() const { return form->pane->Picture1->geometry(); }
 
     void Turn(QPoint eighths, Qt::KeyboardModifiers modifiers = {}) const
     {
         const QPointF at(50, 50);
-        QWheelEvent event(at, form->Picture1->mapToGlobal(at), {}, eighths, Qt::NoButton, modifiers,
-                          Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(form->Picture1, &event);
+        QWheelEvent event(at, form->pane->Picture1->mapToGlobal(at), {}, eighths, Qt::NoButton,
+                          modifiers, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(form->pane->Picture1, &event);
     }
 
     std::int16_t Zoom() const { return state.configuration.zoomLevel; }
@@ -30,14 +30,14 @@ TEST_F(GformTest, HasItsControlsUnderTheirNames)
     Open();
     EXPECT_EQ(form->objectName(), u"Gform"_s);
     EXPECT_EQ(form->windowTitle(), u"Form1"_s);
-    EXPECT_EQ(form->Command2->text(), u"OUT"_s);
-    EXPECT_EQ(form->Command1->text(), u"IN"_s);
+    EXPECT_EQ(form->pane->Command2->text(), u"OUT"_s);
+    EXPECT_EQ(form->pane->Command1->text(), u"IN"_s);
     for (const char* const name :
          {"Command1", "Command2", "List1", "HScroll1", "VScroll1", "Picture1"}) {
         EXPECT_NE(form->findChild<QWidget*>(QLatin1StringView(name)), nullptr) << name;
     }
     for (const QWidget* const widget : std::initializer_list<const QWidget*>{
-             form->Picture1, form->HScroll1, form->VScroll1, form->List1}) {
+             form->pane->Picture1, form->pane->HScroll1, form->pane->VScroll1, form->pane->List1}) {
         EXPECT_FALSE(widget->accessibleName().isEmpty()) << widget->objectName().toStdString();
     }
 }
@@ -46,17 +46,17 @@ TEST_F(GformTest, ButtonsZoomAndStopAtTheEnds)
 {
     Open();
     EXPECT_EQ(Zoom(), 14);
-    QTest::mouseClick(form->Command1, Qt::LeftButton);
+    QTest::mouseClick(form->pane->Command1, Qt::LeftButton);
     EXPECT_EQ(Zoom(), 13);
-    QTest::mouseClick(form->Command2, Qt::LeftButton);
-    QTest::mouseClick(form->Command2, Qt::LeftButton);
+    QTest::mouseClick(form->pane->Command2, Qt::LeftButton);
+    QTest::mouseClick(form->pane->Command2, Qt::LeftButton);
     EXPECT_EQ(Zoom(), 15);
     for (int i = 0; i < 40; ++i) {
-        QTest::mouseClick(form->Command2, Qt::LeftButton);
+        QTest::mouseClick(form->pane->Command2, Qt::LeftButton);
     }
     EXPECT_EQ(Zoom(), 33);
     for (int i = 0; i < 40; ++i) {
-        QTest::mouseClick(form->Command1, Qt::LeftButton);
+        QTest::mouseClick(form->pane->Command1, Qt::LeftButton);
     }
     EXPECT_EQ(Zoom(), 1);
 }
@@ -68,15 +68,15 @@ TEST_F(GformTest, ZoomingAtTheEndStillRedraws)
     const QImage before = Picture();
     AddRecord({48.00005, 11.0}, "NEU");
     EXPECT_EQ(Picture(), before) << "nothing redraws by itself";
-    QTest::mouseClick(form->Command1, Qt::LeftButton);
+    QTest::mouseClick(form->pane->Command1, Qt::LeftButton);
     EXPECT_EQ(Zoom(), 1);
     EXPECT_NE(Picture(), before);
 
     state.configuration.zoomLevel = 33;
-    form->Redraw();
+    form->pane->Redraw();
     const QImage far = Picture();
     AddRecord({-30.0, 11.0}, "FERN");
-    QTest::mouseClick(form->Command2, Qt::LeftButton);
+    QTest::mouseClick(form->pane->Command2, Qt::LeftButton);
     EXPECT_EQ(Zoom(), 33);
     EXPECT_NE(Picture(), far);
 }
@@ -84,7 +84,7 @@ TEST_F(GformTest, ZoomingAtTheEndStillRedraws)
 TEST_F(GformTest, ZoomLevelOutlivesTheWindow)
 {
     Open();
-    QTest::mouseClick(form->Command2, Qt::LeftButton);
+    QTest::mouseClick(form->pane->Command2, Qt::LeftButton);
     form.reset();
     Open();
     EXPECT_EQ(Zoom(), 15);
@@ -101,9 +101,9 @@ TEST_F(GformTest, WheelAndKeysZoomThePolarView)
     EXPECT_EQ(Zoom(), 15) << "half a notch is kept";
     Turn({0, -60});
     EXPECT_EQ(Zoom(), 16);
-    QTest::keyClick(form->Picture1, Qt::Key_Plus);
+    QTest::keyClick(form->pane->Picture1, Qt::Key_Plus);
     EXPECT_EQ(Zoom(), 15);
-    QTest::keyClick(form->Picture1, Qt::Key_Minus);
+    QTest::keyClick(form->pane->Picture1, Qt::Key_Minus);
     EXPECT_EQ(Zoom(), 16);
 }
 
@@ -113,23 +113,23 @@ TEST_F(GformTest, WheelAndKeysScrollTheMap)
     LoadMap(MapFile(2000, 1500));
     const std::int16_t zoom = Zoom();
     Turn({0, -120});
-    EXPECT_EQ(form->VScroll1->value(), 60);
-    EXPECT_EQ(form->HScroll1->value(), 0);
+    EXPECT_EQ(form->pane->VScroll1->value(), 60);
+    EXPECT_EQ(form->pane->HScroll1->value(), 0);
     Turn({0, -120}, Qt::ShiftModifier);
-    EXPECT_EQ(form->HScroll1->value(), 60);
+    EXPECT_EQ(form->pane->HScroll1->value(), 60);
     Turn({-120, 0});
-    EXPECT_EQ(form->HScroll1->value(), 120);
+    EXPECT_EQ(form->pane->HScroll1->value(), 120);
     Turn({0, 120});
-    EXPECT_EQ(form->VScroll1->value(), 0);
-    QTest::keyClick(form->Picture1, Qt::Key_Down);
-    QTest::keyClick(form->Picture1, Qt::Key_Right);
-    EXPECT_EQ(form->VScroll1->value(), 20);
-    EXPECT_EQ(form->HScroll1->value(), 140);
-    QTest::keyClick(form->Picture1, Qt::Key_Up);
-    QTest::keyClick(form->Picture1, Qt::Key_Left);
-    EXPECT_EQ(form->VScroll1->value(), 0);
-    EXPECT_EQ(form->HScroll1->value(), 120);
-    QTest::keyClick(form->Picture1, Qt::Key_Plus);
+    EXPECT_EQ(form->pane->VScroll1->value(), 0);
+    QTest::keyClick(form->pane->Picture1, Qt::Key_Down);
+    QTest::keyClick(form->pane->Picture1, Qt::Key_Right);
+    EXPECT_EQ(form->pane->VScroll1->value(), 20);
+    EXPECT_EQ(form->pane->HScroll1->value(), 140);
+    QTest::keyClick(form->pane->Picture1, Qt::Key_Up);
+    QTest::keyClick(form->pane->Picture1, Qt::Key_Left);
+    EXPECT_EQ(form->pane->VScroll1->value(), 0);
+    EXPECT_EQ(form->pane->HScroll1->value(), 120);
+    QTest::keyClick(form->pane->Picture1, Qt::Key_Plus);
     EXPECT_EQ(Zoom(), zoom);
 }
 
@@ -139,8 +139,8 @@ TEST_F(GformTest, SurfaceFillsTheWindowInThePolarView)
     EXPECT_EQ(Surface(), QRect(0, 0, 800, 600));
     Resize(500, 300);
     EXPECT_EQ(Surface(), QRect(0, 0, 420, 280));
-    EXPECT_FALSE(form->HScroll1->isVisible());
-    EXPECT_FALSE(form->VScroll1->isVisible());
+    EXPECT_FALSE(form->pane->HScroll1->isVisible());
+    EXPECT_FALSE(form->pane->VScroll1->isVisible());
 }
 
 TEST_F(GformTest, SmallImageShrinksTheSurface)
@@ -159,21 +159,21 @@ TEST_F(GformTest, LargeImageIsShownFromItsUpperLeftCorner)
     Open(880, 620);
     LoadMap(MapFile(2000, 1500));
     EXPECT_EQ(Surface(), QRect(0, 0, 780, 580));
-    EXPECT_EQ(form->HScroll1->geometry(), QRect(0, 580, 780, 20));
-    EXPECT_EQ(form->VScroll1->geometry(), QRect(780, 0, 20, 580));
-    EXPECT_EQ(form->HScroll1->value(), 0);
-    EXPECT_EQ(form->VScroll1->value(), 0);
+    EXPECT_EQ(form->pane->HScroll1->geometry(), QRect(0, 580, 780, 20));
+    EXPECT_EQ(form->pane->VScroll1->geometry(), QRect(780, 0, 20, 580));
+    EXPECT_EQ(form->pane->HScroll1->value(), 0);
+    EXPECT_EQ(form->pane->VScroll1->value(), 0);
     // The last clip reaches the right and the lower edge.
-    EXPECT_EQ(form->HScroll1->maximum(), 2000 - 780);
-    EXPECT_EQ(form->VScroll1->maximum(), 1500 - 580);
+    EXPECT_EQ(form->pane->HScroll1->maximum(), 2000 - 780);
+    EXPECT_EQ(form->pane->VScroll1->maximum(), 1500 - 580);
 }
 
 TEST_F(GformTest, OneBarIsEnoughForOneDirection)
 {
     Open(880, 620);
     LoadMap(MapFile(2000, 300));
-    EXPECT_TRUE(form->HScroll1->isVisible());
-    EXPECT_FALSE(form->VScroll1->isVisible());
+    EXPECT_TRUE(form->pane->HScroll1->isVisible());
+    EXPECT_FALSE(form->pane->VScroll1->isVisible());
     EXPECT_EQ(Surface(), QRect(0, 0, 800, 300));
 }
 
@@ -193,16 +193,16 @@ TEST_F(GformTest, ScrollingMovesTheClip)
     LoadMap(file);
     const QSize size(780, 580);
     EXPECT_EQ(Picture(), picture.copy({{0, 0}, size}));
-    form->HScroll1->setValue(333);
+    form->pane->HScroll1->setValue(333);
     EXPECT_EQ(Picture(), picture.copy({{333, 0}, size}));
-    form->VScroll1->setValue(form->VScroll1->maximum());
+    form->pane->VScroll1->setValue(form->pane->VScroll1->maximum());
     EXPECT_EQ(Picture(), picture.copy({{333, 620}, size}));
 
     // A dragged scroll box is followed at every position.
-    form->HScroll1->setSliderDown(true);
-    form->HScroll1->setSliderPosition(500);
+    form->pane->HScroll1->setSliderDown(true);
+    form->pane->HScroll1->setSliderPosition(500);
     EXPECT_EQ(Picture(), picture.copy({{500, 620}, size}));
-    form->HScroll1->setSliderDown(false);
+    form->pane->HScroll1->setSliderDown(false);
 
     LeaveAndComeBack();
     EXPECT_EQ(Picture(), picture.copy({{0, 0}, size})) << "every activation goes back";
@@ -212,14 +212,14 @@ TEST_F(GformTest, ResizingKeepsTheClipWithinTheImage)
 {
     Open(480, 320);
     LoadMap(MapFile(1000, 800));
-    form->HScroll1->setValue(form->HScroll1->maximum());
-    form->VScroll1->setValue(form->VScroll1->maximum());
+    form->pane->HScroll1->setValue(form->pane->HScroll1->maximum());
+    form->pane->VScroll1->setValue(form->pane->VScroll1->maximum());
     Resize(880, 620);
-    EXPECT_EQ(form->HScroll1->value(), 1000 - 780);
-    EXPECT_EQ(form->VScroll1->value(), 800 - 580);
+    EXPECT_EQ(form->pane->HScroll1->value(), 1000 - 780);
+    EXPECT_EQ(form->pane->VScroll1->value(), 800 - 580);
     Resize(1200, 900);
     EXPECT_EQ(Surface(), QRect(0, 0, 1000, 800));
-    EXPECT_EQ(form->HScroll1->value(), 0);
+    EXPECT_EQ(form->pane->HScroll1->value(), 0);
 }
 
 TEST_F(GformTest, TinyWindowIsLaidOutAsIfItWereTwentyUnits)
@@ -271,7 +271,7 @@ TEST_F(GformTest, OwnMessageBoxIsNoActivation)
     Resize(480, 320);
     boxes.files.push_back(MapFile(1000, 800));
     Choose("MnuGLoad");
-    form->HScroll1->setValue(50);
+    form->pane->HScroll1->setValue(50);
     Choose("MnuRouS");
     ClickAt(10, 10);
     mainWindow.calls.clear();
@@ -282,7 +282,7 @@ TEST_F(GformTest, OwnMessageBoxIsNoActivation)
     ASSERT_TRUE(
         QTest::qWaitFor([this] { return QGuiApplication::focusWindow() == form->windowHandle(); }));
     EXPECT_TRUE(mainWindow.calls.empty());
-    EXPECT_EQ(form->HScroll1->value(), 50);
+    EXPECT_EQ(form->pane->HScroll1->value(), 50);
     Choose("MnuRouF");
     EXPECT_EQ(state.map.clickMode, app::ClickMode::RouteContinue) << "the route is still there";
 
@@ -296,12 +296,12 @@ TEST_F(GformTest, OwnMessageBoxIsNoActivation)
     ASSERT_TRUE(
         QTest::qWaitFor([this] { return QGuiApplication::focusWindow() == form->windowHandle(); }));
     EXPECT_EQ(mainWindow.calls, std::vector<std::string>{"TakeDatabaseChange"});
-    EXPECT_EQ(form->HScroll1->value(), 50);
+    EXPECT_EQ(form->pane->HScroll1->value(), 50);
     mainWindow.calls.clear();
 
     LeaveAndComeBack();
     EXPECT_EQ(mainWindow.calls, std::vector<std::string>{"S1S2_Update"});
-    EXPECT_EQ(form->HScroll1->value(), 0);
+    EXPECT_EQ(form->pane->HScroll1->value(), 0);
 }
 
 TEST_F(GformTest, ReopeningShowsTheSamePicture)
@@ -349,22 +349,22 @@ TEST_F(GformTest, CloseItemClosesTheWindow)
 TEST_F(GformTest, PropertiesAreListedAndFoldAway)
 {
     Open();
-    const int narrow = form->List1->width();
+    const int narrow = form->pane->List1->width();
     Choose("MnuEig");
-    ASSERT_EQ(form->List1->count(), 6);
-    EXPECT_EQ(form->List1->item(0)->text(), u"Bildmodus:  aus"_s);
-    EXPECT_GE(form->List1->width(), narrow);
-    EXPECT_TRUE(form->List1->hasFocus());
+    ASSERT_EQ(form->pane->List1->count(), 6);
+    EXPECT_EQ(form->pane->List1->item(0)->text(), u"Bildmodus:  aus"_s);
+    EXPECT_GE(form->pane->List1->width(), narrow);
+    EXPECT_TRUE(form->pane->List1->hasFocus());
 
     LoadMap(MapFile(400, 300));
     Choose("MnuRefInf");
-    QTest::mouseClick(form->List1->viewport(), Qt::LeftButton, {}, QPoint(5, 5));
-    EXPECT_EQ(form->List1->count(), 10) << "emptied first";
-    EXPECT_EQ(form->List1->item(0)->text(), u"Bildmodus:  ein"_s);
-    EXPECT_GT(form->List1->width(), narrow) << "wide enough to be read";
-    QTest::keyClick(form->List1, Qt::Key_Escape);
-    EXPECT_EQ(form->List1->width(), narrow);
-    EXPECT_TRUE(form->Picture1->hasFocus());
+    QTest::mouseClick(form->pane->List1->viewport(), Qt::LeftButton, {}, QPoint(5, 5));
+    EXPECT_EQ(form->pane->List1->count(), 10) << "emptied first";
+    EXPECT_EQ(form->pane->List1->item(0)->text(), u"Bildmodus:  ein"_s);
+    EXPECT_GT(form->pane->List1->width(), narrow) << "wide enough to be read";
+    QTest::keyClick(form->pane->List1, Qt::Key_Escape);
+    EXPECT_EQ(form->pane->List1->width(), narrow);
+    EXPECT_TRUE(form->pane->Picture1->hasFocus());
 }
 
 }  // namespace

@@ -311,15 +311,15 @@ TEST_F(MapFilesTest, NameWithoutADotHasNoCompanions)
 TEST_F(MapFilesTest, LoadingStartsAtTheUpperLeftCornerWithoutRoute)
 {
     LoadMap(MapFile(2000, 1500));
-    form->HScroll1->setValue(300);
-    form->VScroll1->setValue(200);
+    form->pane->HScroll1->setValue(300);
+    form->pane->VScroll1->setValue(200);
     Choose("MnuRefInf");
     Choose("MnuRast");
     Choose("MnuRouS");
     ClickAt(10, 10);
     LoadMap(MapFile(2100, 1600, "zweite.png"));
-    EXPECT_EQ(form->HScroll1->value(), 0);
-    EXPECT_EQ(form->VScroll1->value(), 0);
+    EXPECT_EQ(form->pane->HScroll1->value(), 0);
+    EXPECT_EQ(form->pane->VScroll1->value(), 0);
     EXPECT_FALSE(Checked("MnuRast"));
     Choose("MnuRouF");
     EXPECT_EQ(state.map.clickMode, app::ClickMode::RouteStart);

@@ -53,8 +53,8 @@ class HintTest : public GformFixture {
 protected:
     QString HintAt(QPoint point) const
     {
-        QHelpEvent event(QEvent::ToolTip, point, form->Picture1->mapToGlobal(point));
-        QCoreApplication::sendEvent(form->Picture1, &event);
+        QHelpEvent event(QEvent::ToolTip, point, form->pane->Picture1->mapToGlobal(point));
+        QCoreApplication::sendEvent(form->pane->Picture1, &event);
         // A hint that goes away does so a moment later.
         const bool gone = QTest::qWaitFor([] { return !QToolTip::isVisible(); }, 500);
         return gone ? QString() : QToolTip::text();

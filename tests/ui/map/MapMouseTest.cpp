@@ -70,8 +70,8 @@ TEST_F(MapMouseTest, PressShowsThePositionInTheCaption)
 
 TEST_F(MapMouseTest, PressCapturesThePixelOfTheWholeImage)
 {
-    form->HScroll1->setValue(700);
-    form->VScroll1->setValue(400);
+    form->pane->HScroll1->setValue(700);
+    form->pane->VScroll1->setValue(400);
     ClickAt(100, 50);
     EXPECT_EQ(Title(), Caption(TruePosition(800, 450)));
 }
@@ -146,12 +146,12 @@ TEST_F(MapMouseTest, OnlyTheLeftButtonClicks)
     ClickAt(10, 10, Qt::MiddleButton);
     EXPECT_TRUE(mainWindow.calls.empty());
     // Pressed on the surface but let go beside it: no click.
-    QTest::mousePress(form->Picture1, Qt::LeftButton, {}, QPoint(10, 10));
-    QTest::mouseRelease(form->Picture1, Qt::LeftButton, {}, QPoint(-10, 10));
+    QTest::mousePress(form->pane->Picture1, Qt::LeftButton, {}, QPoint(10, 10));
+    QTest::mouseRelease(form->pane->Picture1, Qt::LeftButton, {}, QPoint(-10, 10));
     EXPECT_TRUE(mainWindow.calls.empty());
     // The position is that of the press.
-    QTest::mousePress(form->Picture1, Qt::LeftButton, {}, QPoint(10, 10));
-    QTest::mouseRelease(form->Picture1, Qt::LeftButton, {}, QPoint(30, 40));
+    QTest::mousePress(form->pane->Picture1, Qt::LeftButton, {}, QPoint(10, 10));
+    QTest::mouseRelease(form->pane->Picture1, Qt::LeftButton, {}, QPoint(30, 40));
     EXPECT_EQ(mainWindow.panel[0].place, "X/Y: 10 10");
 }
 
@@ -267,7 +267,7 @@ TEST_F(MapMouseTest, Station2WithoutAPositionIsNoReference)
 TEST_F(MapMouseTest, Station2BecomesAReferencePoint)
 {
     Choose("MnuS2Ref");
-    form->HScroll1->setValue(100);
+    form->pane->HScroll1->setValue(100);
     SetStation2({48.5, 11.5});
     ClickAt(50, 60);
     ASSERT_EQ(state.map.references.RefCount(), 1);

@@ -11,7 +11,7 @@
 #include "stations/WorkingFile.h"
 #include "ui/main/MainFormFixture.h"
 #include "ui/map/Gform.h"
-#include "ui/map/MapSurface.h"
+#include "ui/map/MapPane.h"
 #include "ui/map/MarkerPainter.h"
 
 namespace ui {
@@ -51,10 +51,11 @@ protected:
     // Scrolls until the pixel of the image is on the surface, and clicks it.
     void ClickPixel(int x, int y) const
     {
-        form->HScroll1->setValue(x - 200);
-        form->VScroll1->setValue(y - 150);
-        QTest::mouseClick(form->Picture1, Qt::LeftButton, {},
-                          QPoint(x - form->HScroll1->value(), y - form->VScroll1->value()));
+        form->pane->HScroll1->setValue(x - 200);
+        form->pane->VScroll1->setValue(y - 150);
+        QTest::mouseClick(
+            form->pane->Picture1, Qt::LeftButton, {},
+            QPoint(x - form->pane->HScroll1->value(), y - form->pane->VScroll1->value()));
     }
 
     void TypeStation2(geo::GeoPosition position)
@@ -76,13 +77,13 @@ protected:
     // True when the surface shows a marker's square within a pixel of a pixel of the image.
     bool MarkerStandsAt(int x, int y) const
     {
-        form->HScroll1->setValue(x - 200);
-        form->VScroll1->setValue(y - 150);
-        const QImage picture = form->Picture1->grab().toImage();
+        form->pane->HScroll1->setValue(x - 200);
+        form->pane->VScroll1->setValue(y - 150);
+        const QImage picture = form->pane->Picture1->grab().toImage();
         for (int dy = -1; dy <= 1; ++dy) {
             for (int dx = -1; dx <= 1; ++dx) {
-                const QPoint centre(x - form->HScroll1->value() + dx,
-                                    y - form->VScroll1->value() + dy);
+                const QPoint centre(x - form->pane->HScroll1->value() + dx,
+                                    y - form->pane->VScroll1->value() + dy);
                 if (IsSquare(picture, centre)) {
                     return true;
                 }
@@ -182,9 +183,9 @@ TEST_F(MapStoryTest, FromAScanToLandmarksAndBack)
     ClickPixel(1100, 1000);
     ClickPixel(1300, 1000);
     EXPECT_EQ(state.map.clickMode, app::ClickMode::RouteContinue);
-    form->HScroll1->setValue(1000);
-    form->VScroll1->setValue(900);
-    QImage picture = form->Picture1->grab().toImage();
+    form->pane->HScroll1->setValue(1000);
+    form->pane->VScroll1->setValue(900);
+    QImage picture = form->pane->Picture1->grab().toImage();
     EXPECT_LT(picture.pixelColor(200, 100).red(), 0x60);
     EXPECT_EQ(picture.pixelColor(200, 110), kGround);
 
@@ -198,7 +199,7 @@ TEST_F(MapStoryTest, FromAScanToLandmarksAndBack)
     // The polar view, and back by loading the map again.
     Choose("MnuPicOff");
     EXPECT_FALSE(state.map.mapImage);
-    picture = form->Picture1->grab().toImage();
+    picture = form->pane->Picture1->grab().toImage();
     EXPECT_EQ(picture.pixelColor(3, 3), QColor(Qt::white));
     LoadMap();
     EXPECT_TRUE(state.map.mapImage);
