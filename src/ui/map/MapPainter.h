@@ -15,9 +15,10 @@
 #include "app/AppState.h"
 #include "app/MainWindowPort.h"
 #include "plot/MapView.h"
-#include "plot/StationPlot.h"
 #include "ui/map/MapImage.h"
 #include "ui/map/MarkerLayer.h"
+#include "ui/map/PolarPicture.h"
+#include "ui/map/SurfacePlot.h"
 
 namespace ui {
 
@@ -53,15 +54,11 @@ public:
     std::string_view LabelOf(const Marker& marker) const { return layer_.Text(marker.label); }
 
 private:
-    void DrawGround(QImage& frame, const plot::MapView& view, const MarkerPainter& marker);
+    void DrawGround(QImage& frame, const plot::MapView& view);
     void DrawLines(QImage& frame, const plot::MapView& view) const;
     void CollectMarkers(const plot::MapView& view);
     void CollectStations(const plot::MapView& view);
     void UpdateLabels();
-    plot::ImageModel CurrentModel() const;
-
-    // Offset from the centre in the polar view, surface position in the map view; unrounded.
-    map::Pixel Plot(const plot::MapView& view, geo::GeoPosition position) const;
 
     // Adds the marker unless it stands too far outside.
     void AddMarker(const plot::MapView& view, map::Pixel plotted, plot::LabelId label,
@@ -71,26 +68,13 @@ private:
     const MapImage& image_;
     const app::MainWindowPort& mainWindow_;
 
-    plot::StationPlot plot_;
+    SurfacePlot plot_;
+    PolarPicture polar_;
     MarkerLayer layer_;
     std::vector<plot::LabelId> recordLabels_;
     std::vector<Marker> markers_;
     std::vector<MarkerSource> sources_;  // of markers_
     std::optional<MarkerPainter> marker_;
-    qreal scale_ = 1.0;
-
-    // The polar scale as drawn last, and what it was drawn for.
-    struct ScaleKey {
-        QSize frame;
-        plot::SurfaceSize surface;
-        qreal scale;
-        std::int16_t zoomLevel;
-        QRgb plate;
-
-        bool operator==(const ScaleKey&) const = default;
-    };
-    std::optional<ScaleKey> scaleKey_;
-    QImage scalePicture_;
 };
 
 }  // namespace ui

@@ -1,5 +1,7 @@
 #include "ui/map/PolarPicture.h"
 
+#include <cstring>
+
 #include <QPainter>
 
 #include "base/Rounding.h"
@@ -35,11 +37,10 @@ void DrawLabel(QPainter& painter, plot::SurfacePoint top, const std::string& lab
                      QString::fromStdString(label));
 }
 
-}  // namespace
-
-void DrawPolarScale(QImage& picture, plot::SurfaceSize surface, int zoomLevel, qreal scale,
-                    const MarkerPainter& marker, const base::NumberFormat& format)
+void DrawScale(QImage& picture, plot::SurfaceSize surface, int zoomLevel,
+               const MarkerPainter& marker, const base::NumberFormat& format)
 {
+    const qreal scale = marker.Scale();
     const plot::PolarScale polar = plot::MakePolarScale(surface, zoomLevel, format);
     picture.fill(kPolarGround);
     {
@@ -57,6 +58,23 @@ void DrawPolarScale(QImage& picture, plot::SurfaceSize surface, int zoomLevel, q
         DrawLabel(painter, {.x = polar.centre.x, .y = polar.centre.y - ring.radius}, ring.label,
                   scale, marker);
     }
+}
+
+}  // namespace
+
+void PolarPicture::Draw(QImage& frame, plot::SurfaceSize surface, int zoomLevel,
+                        const MarkerPainter& marker, const base::NumberFormat& format)
+{
+    const std::tuple key(frame.size(), surface, marker.Scale(), zoomLevel,
+                         marker.PlateColour().rgb());
+    if (key_ != key) {
+        picture_ = QImage(frame.size(), frame.format());
+        DrawScale(picture_, surface, zoomLevel, marker, format);
+        key_ = key;
+    }
+    // Into the bits that are there: a frame of the same size need not be made anew.
+    std::memcpy(frame.bits(), picture_.constBits(),
+                static_cast<std::size_t>(picture_.sizeInBytes()));
 }
 
 }  // namespace ui
