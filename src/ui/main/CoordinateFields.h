@@ -27,16 +27,6 @@ public:
     CoordinateFields(app::AppState& state, std::array<StationPanel*, 2> panel,
                      FormHeadings& headings, ResultBlock& result, QObject* parent = nullptr);
 
-    // Show the position of a station in one form. A form without a finite result is left empty.
-    void ShowDecimal(int station);  // Text2, Text3
-    void GRDMINSEC(int station);    // Text4 to Text11
-    void ShowLocator(int station);  // Text1
-    void GeoGk(int station);        // Text12, Text13
-    void GeoUTM(int station);       // Text20 to Text22; nothing while they are being edited
-
-    // Distance and both directions of the pair.
-    void Entfernung();
-
     // Sets a station from elsewhere: start-up, list, mean value, map click. Decimal degrees become
     // the active group; writing the two fields as plain decimal text derives all the other forms.
     // A position that is not finite is kept as it is and leaves every form empty.
@@ -54,9 +44,9 @@ signals:
 private:
     void Connect(StationPanel& panel);
     void Changed(StationPanel& panel, const EntryField* field, app::EntryGroup group);
-    void Read(StationPanel& panel, const EntryField* field, app::EntryGroup group);
-    void ShowForm(int station, app::EntryGroup form);
-    void SetPositionWithoutResult(int station, geo::GeoPosition position);
+    // Shows the forms that are not being edited.
+    void ShowOtherForms(const StationPanel& panel);
+    void Entfernung();  // distance and both directions of the pair
     void Option2Clicked();
 
     app::AppState& state_;

@@ -84,7 +84,7 @@ MainForm::MainForm(app::AppState& state, UserDialogs& dialogs)
     DrawPictures();
     list_->SetOpener(panel_[0]->Command1);
     list_->Close();
-    panel_[0]->Text1->setFocus();
+    panel_[0]->Text[1]->setFocus();
 }
 
 MainForm::~MainForm() = default;

@@ -16,6 +16,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kCaptionsPerPanel = 15;
+constexpr int kFormRows = 3;  // of the highest forms
 
 // A form of its own inside one cell of the window's grid.
 QGridLayout& NewForm(QGridLayout& grid, int row, int column)
@@ -46,22 +47,27 @@ StationPanel::StationPanel(int stationIndex, QGridLayout& grid, int row)
 
     // Made in reading order, which is thereby the order of the Tab key.
     AddInfo(NewForm(grid, row + 1, Info));
-    AddLocator(NewForm(grid, row + 1, Locator));
-    AddDecimal(NewForm(grid, row + 1, Decimal));
+    QGridLayout& locator = NewForm(grid, row + 1, Locator);
+    locator.addWidget(NewField(1, 8, u"Locator"_s), 0, 0);
+    locator.setRowStretch(1, 1);
+    AddRows(NewForm(grid, row + 1, Decimal),
+            {{3, 11, u"Breite"_s, u"Breite in Grad"_s}, {2, 11, u"Länge"_s, u"Länge in Grad"_s}});
     AddDegreeMinute(NewForm(grid, row + 1, DegreeMinute));
-    AddGaussKrueger(NewForm(grid, row + 1, GaussKrueger));
-    AddUtm(NewForm(grid, row + 1, Utm));
+    AddRows(NewForm(grid, row + 1, GaussKrueger),
+            {{12, 8, u"Rechts"_s, u"Gauß-Krüger Rechtswert"_s},
+             {13, 8, u"Höhe"_s, u"Gauß-Krüger Hochwert"_s}});
+    AddRows(NewForm(grid, row + 1, Utm), {{20, 3, u"Zone"_s, u"UTM Zone"_s},
+                                          {21, 8, u"Rechts"_s, u"UTM Rechtswert"_s},
+                                          {22, 8, u"Höhe"_s, u"UTM Hochwert"_s}});
     AddButtons(grid, row + 2);
 }
 
 void StationPanel::ShowUnits(geo::DegreeMinuteMode mode)
 {
     const bool seconds = mode == geo::DegreeMinuteMode::Seconds;
-    for (std::size_t i = 0; i < unit_.size(); i += 3) {
-        unit_[i]->setText(u"°"_s);
-        unit_[i + 1]->setText(u"′"_s);
-        unit_[i + 2]->setText(seconds ? u"″"_s : u"H"_s);
-        unit_[i + 2]->setToolTip(seconds ? u"Sekunden"_s : u"Hundertstel Minuten"_s);
+    for (QLabel* const unit : thirdUnit_) {
+        unit->setText(seconds ? u"″"_s : u"H"_s);
+        unit->setToolTip(seconds ? u"Sekunden"_s : u"Hundertstel Minuten"_s);
     }
 }
 
@@ -69,26 +75,27 @@ void StationPanel::ShowTexts(const stations::StationTexts& texts) const
 {
     const std::array shown = {&texts.callsign,  &texts.name,   &texts.place,
                               &texts.frequency, &texts.remark, &texts.date};
-    const std::array<EntryField*, 6> fields = StationFields();
-    for (std::size_t i = 0; i < fields.size(); ++i) {
-        fields[i]->Show(QString::fromStdString(*shown[i]));
+    for (std::size_t i = 0; i < shown.size(); ++i) {
+        StationFields()[i]->Show(QString::fromStdString(*shown[i]));
     }
 }
 
 stations::StationTexts StationPanel::Texts() const
 {
-    return {.callsign = Composed(Text14->text()),
-            .name = Composed(Text15->text()),
-            .place = Composed(Text16->text()),
-            .frequency = Composed(Text17->text()),
-            .remark = Composed(Text18->text()),
-            .date = Composed(Text19->text())};
+    return {.callsign = Composed(Text[14]->text()),
+            .name = Composed(Text[15]->text()),
+            .place = Composed(Text[16]->text()),
+            .frequency = Composed(Text[17]->text()),
+            .remark = Composed(Text[18]->text()),
+            .date = Composed(Text[19]->text())};
 }
 
-EntryField* StationPanel::NewField(const char* name, int columns, const QString& accessibleName)
+EntryField* StationPanel::NewField(int number, int columns, const QString& accessibleName)
 {
-    auto* const field = Named(new EntryField(columns, window_), ElementName(name, station));
+    auto* const field =
+        Named(new EntryField(columns, window_), u"Text%1_%2"_s.arg(number).arg(station));
     field->setAccessibleName(u"Station %1, %2"_s.arg(station + 1).arg(accessibleName));
+    Text[static_cast<std::size_t>(number)] = field;
     return field;
 }
 
@@ -101,117 +108,67 @@ QLabel* StationPanel::NewCaption(const QString& text, QWidget* buddy)
     return caption;
 }
 
-void StationPanel::AddInfo(QGridLayout& form)
+void StationPanel::AddEntry(QGridLayout& form, const Entry& entry, int row, int column)
 {
-    const struct {
-        EntryField* StationPanel::*field;
-        const char* name;
-        QString caption;
-        QString accessibleName;
-    } fields[] = {
-        {&StationPanel::Text14, "Text14", u"Rufz."_s, u"Rufzeichen"_s},
-        {&StationPanel::Text15, "Text15", u"Name"_s, u"Name"_s},
-        {&StationPanel::Text16, "Text16", u"Ort"_s, u"Ort"_s},
-        {&StationPanel::Text17, "Text17", u"Frequ."_s, u"Frequenz"_s},
-        {&StationPanel::Text18, "Text18", u"Anm."_s, u"Anmerkung"_s},
-        {&StationPanel::Text19, "Text19", u"Datum"_s, u"Datum"_s},
-    };
-    constexpr int kFieldsPerRow = 2;
-    constexpr int kFieldColumns = 15;
-    int i = 0;
-    for (const auto& f : fields) {
-        EntryField* const field = NewField(f.name, kFieldColumns, f.accessibleName);
-        this->*f.field = field;
-        const int column = 2 * (i % kFieldsPerRow);
-        form.addWidget(NewCaption(f.caption, field), i / kFieldsPerRow, column);
-        form.addWidget(field, i / kFieldsPerRow, column + 1);
-        form.setColumnStretch(column + 1, 1);
-        ++i;
+    EntryField* const field = NewField(entry.number, entry.columns, entry.accessibleName);
+    form.addWidget(NewCaption(entry.caption, field), row, column);
+    form.addWidget(field, row, column + 1);
+}
+
+void StationPanel::AddRows(QGridLayout& form, std::initializer_list<Entry> entries)
+{
+    int row = 0;
+    for (const Entry& entry : entries) {
+        AddEntry(form, entry, row++, 0);
+    }
+    if (row < kFormRows) {
+        form.setRowStretch(row, 1);
     }
 }
 
-void StationPanel::AddLocator(QGridLayout& form)
+void StationPanel::AddInfo(QGridLayout& form)
 {
-    Text1 = NewField("Text1", 8, u"Locator"_s);
-    form.addWidget(Text1, 0, 0);
-    form.setRowStretch(1, 1);
-}
-
-void StationPanel::AddDecimal(QGridLayout& form)
-{
-    Text3 = NewField("Text3", 11, u"Breite in Grad"_s);
-    Text2 = NewField("Text2", 11, u"Länge in Grad"_s);
-    form.addWidget(NewCaption(u"Breite"_s, Text3), 0, 0);
-    form.addWidget(Text3, 0, 1);
-    form.addWidget(NewCaption(u"Länge"_s, Text2), 1, 0);
-    form.addWidget(Text2, 1, 1);
-    form.setRowStretch(2, 1);
+    constexpr int kFieldColumns = 15;
+    const Entry entries[kFormRows][2] = {
+        {{14, kFieldColumns, u"Rufz."_s, u"Rufzeichen"_s},
+         {15, kFieldColumns, u"Name"_s, u"Name"_s}},
+        {{16, kFieldColumns, u"Ort"_s, u"Ort"_s}, {17, kFieldColumns, u"Frequ."_s, u"Frequenz"_s}},
+        {{18, kFieldColumns, u"Anm."_s, u"Anmerkung"_s},
+         {19, kFieldColumns, u"Datum"_s, u"Datum"_s}},
+    };
+    for (int row = 0; row < kFormRows; ++row) {
+        AddEntry(form, entries[row][0], row, 0);
+        AddEntry(form, entries[row][1], row, 2);
+    }
+    form.setColumnStretch(1, 1);
+    form.setColumnStretch(3, 1);
 }
 
 void StationPanel::AddDegreeMinute(QGridLayout& form)
 {
-    const struct Part {
-        EntryField* StationPanel::*field;
-        const char* name;
-        int columns;
-        QString accessibleName;
-    } parts[2][4] = {
-        {{&StationPanel::Text8, "Text8", 3, u"Breite, Grad"_s},
-         {&StationPanel::Text9, "Text9", 2, u"Breite, Minuten"_s},
-         {&StationPanel::Text10, "Text10", 2, u"Breite, Sekunden oder Hundertstel Minuten"_s},
-         {&StationPanel::Text11, "Text11", 2, u"Breite, N oder S"_s}},
-        {{&StationPanel::Text4, "Text4", 3, u"Länge, Grad"_s},
-         {&StationPanel::Text5, "Text5", 2, u"Länge, Minuten"_s},
-         {&StationPanel::Text6, "Text6", 2, u"Länge, Sekunden oder Hundertstel Minuten"_s},
-         {&StationPanel::Text7, "Text7", 2, u"Länge, O oder W"_s}},
-    };
     for (int row = 0; row < 2; ++row) {
         const bool latitude = row == 0;
+        const int first = latitude ? 8 : 4;
+        const QString caption = latitude ? u"Breite"_s : u"Länge"_s;
+        const QString parts[] = {u"Grad"_s, u"Minuten"_s, u"Sekunden oder Hundertstel Minuten"_s,
+                                 latitude ? u"N oder S"_s : u"O oder W"_s};
         auto* const line = new QHBoxLayout;
         line->setSpacing(2);
-        std::size_t part = 0;
-        for (const Part& p : parts[row]) {
-            EntryField* const field = NewField(p.name, p.columns, p.accessibleName);
-            this->*p.field = field;
-            line->addWidget(field);
+        for (int part = 0; part < 4; ++part) {
+            line->addWidget(
+                NewField(first + part, part == 0 ? 3 : 2, caption + u", "_s + parts[part]));
             if (part < 3) {
-                auto* const unit = new QLabel(window_);
+                auto* const unit = new QLabel(part == 0 ? u"°"_s : u"′"_s, window_);
                 unit->setMinimumWidth(unit->fontMetrics().horizontalAdvance(u'H'));
-                unit_[(latitude ? 3U : 0U) + part] = unit;
                 line->addWidget(unit);
+                thirdUnit_[static_cast<std::size_t>(row)] = unit;
             }
-            ++part;
         }
-        EntryField* const first = latitude ? Text8 : Text4;
-        form.addWidget(NewCaption(latitude ? u"Breite"_s : u"Länge"_s, first), row, 0);
+        form.addWidget(NewCaption(caption, Text[static_cast<std::size_t>(first)]), row, 0);
         form.addLayout(line, row, 1);
     }
     form.setRowStretch(2, 1);
     ShowUnits(geo::DegreeMinuteMode::Hundredths);
-}
-
-void StationPanel::AddGaussKrueger(QGridLayout& form)
-{
-    Text12 = NewField("Text12", 8, u"Gauß-Krüger Rechtswert"_s);
-    Text13 = NewField("Text13", 8, u"Gauß-Krüger Hochwert"_s);
-    form.addWidget(NewCaption(u"Rechts"_s, Text12), 0, 0);
-    form.addWidget(Text12, 0, 1);
-    form.addWidget(NewCaption(u"Höhe"_s, Text13), 1, 0);
-    form.addWidget(Text13, 1, 1);
-    form.setRowStretch(2, 1);
-}
-
-void StationPanel::AddUtm(QGridLayout& form)
-{
-    Text20 = NewField("Text20", 3, u"UTM Zone"_s);
-    Text21 = NewField("Text21", 8, u"UTM Rechtswert"_s);
-    Text22 = NewField("Text22", 8, u"UTM Hochwert"_s);
-    form.addWidget(NewCaption(u"Zone"_s, Text20), 0, 0);
-    form.addWidget(Text20, 0, 1);
-    form.addWidget(NewCaption(u"Rechts"_s, Text21), 1, 0);
-    form.addWidget(Text21, 1, 1);
-    form.addWidget(NewCaption(u"Höhe"_s, Text22), 2, 0);
-    form.addWidget(Text22, 2, 1);
 }
 
 void StationPanel::AddButtons(QGridLayout& grid, int row)

@@ -3,6 +3,8 @@
 #pragma once
 
 #include <array>
+#include <initializer_list>
+#include <span>
 
 #include <QObject>
 
@@ -39,67 +41,49 @@ public:
     // Signs between and behind the degree-minute fields, which tell what the third field counts.
     void ShowUnits(geo::DegreeMinuteMode mode);
 
-    // Text4 to Text11: longitude degrees, minutes, third, hemisphere; latitude likewise.
-    std::array<EntryField*, 8> DegreeMinuteFields() const
-    {
-        return {Text4, Text5, Text6, Text7, Text8, Text9, Text10, Text11};
-    }
-
     // The texts of the station; what was typed is composed.
     void ShowTexts(const stations::StationTexts& texts) const;
     stations::StationTexts Texts() const;
 
-    // Text14 to Text19: callsign, name, place, frequency, remark, date.
-    std::array<EntryField*, 6> StationFields() const
-    {
-        return {Text14, Text15, Text16, Text17, Text18, Text19};
-    }
+    // Callsign, name, place, frequency, remark, date.
+    std::span<EntryField* const> StationFields() const { return std::span(Text).subspan(14, 6); }
 
     const int station;  // 0 = Station 1, 1 = Station 2
 
-    EntryField* Text1;   // Maidenhead locator
-    EntryField* Text2;   // longitude, decimal degrees
-    EntryField* Text3;   // latitude, decimal degrees
-    EntryField* Text4;   // longitude degrees
-    EntryField* Text5;   // longitude minutes
-    EntryField* Text6;   // longitude seconds or hundredths of a minute
-    EntryField* Text7;   // longitude hemisphere letter
-    EntryField* Text8;   // latitude degrees
-    EntryField* Text9;   // latitude minutes
-    EntryField* Text10;  // latitude seconds or hundredths of a minute
-    EntryField* Text11;  // latitude hemisphere letter
-    EntryField* Text12;  // Gauss-Krüger easting (Rechtswert)
-    EntryField* Text13;  // Gauss-Krüger northing (Hochwert)
-    EntryField* Text14;  // callsign
-    EntryField* Text15;  // name
-    EntryField* Text16;  // place
-    EntryField* Text17;  // frequency
-    EntryField* Text18;  // remark
-    EntryField* Text19;  // date
-    EntryField* Text20;  // UTM zone
-    EntryField* Text21;  // UTM easting
-    EntryField* Text22;  // UTM northing
+    // Text[i] is the field Texti; there is no Text0.
+    //   1          Maidenhead locator
+    //   2, 3       longitude and latitude, decimal degrees
+    //   4 to 7     longitude: degrees, minutes, seconds or hundredths of a minute, hemisphere
+    //   letter 8 to 11    latitude likewise 12, 13     Gauss-Krüger easting (Rechtswert) and
+    //   northing (Hochwert) 14 to 19   callsign, name, place, frequency, remark, date 20 to 22 UTM
+    //   zone, easting, northing
+    std::array<EntryField*, 23> Text = {};
 
     QPushButton* Command1;  // "Laden": load a station from the list
     QPushButton* Command4;  // "REMOVE": delete records from the list
     QPushButton* SA;        // "Sichern": save the panel as a new record
 
 private:
-    EntryField* NewField(const char* name, int columns, const QString& accessibleName);
-    QLabel* NewCaption(const QString& text, QWidget* buddy);
+    // A field and the caption before it.
+    struct Entry {
+        int number;  // of the field
+        int columns;
+        QString caption;
+        QString accessibleName;
+    };
 
+    EntryField* NewField(int number, int columns, const QString& accessibleName);
+    QLabel* NewCaption(const QString& text, QWidget* buddy);
+    void AddEntry(QGridLayout& form, const Entry& entry, int row, int column);
+
+    void AddRows(QGridLayout& form, std::initializer_list<Entry> entries);
     void AddInfo(QGridLayout& form);
-    void AddLocator(QGridLayout& form);
-    void AddDecimal(QGridLayout& form);
     void AddDegreeMinute(QGridLayout& form);
-    void AddGaussKrueger(QGridLayout& form);
-    void AddUtm(QGridLayout& form);
     void AddButtons(QGridLayout& grid, int row);
 
     QWidget* window_;
-    int captions_ = 0;  // made so far; numbers the elements of Label12
-    // Behind longitude degrees, minutes, third; latitude likewise.
-    std::array<QLabel*, 6> unit_ = {};
+    int captions_ = 0;                       // made so far; numbers the elements of Label12
+    std::array<QLabel*, 2> thirdUnit_ = {};  // behind the third fields of latitude and longitude
 };
 
 }  // namespace ui
