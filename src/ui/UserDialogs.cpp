@@ -41,6 +41,14 @@ QString Chosen(QFileDialog& dialog)
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
+QString Open(QWidget* parent, const FileRequest& request, QFileDialog::FileMode mode)
+{
+    QFileDialog dialog(parent);
+    Prepare(dialog, request);
+    dialog.setFileMode(mode);
+    return Chosen(dialog);
+}
+
 QString Title(const QString& title)
 {
     return title.isEmpty() ? u"Kompasso"_s : title;
@@ -117,18 +125,12 @@ bool QtDialogs::AskOkCancel(QWidget* parent, const QString& title, const QString
 
 QString QtDialogs::OpenFile(QWidget* parent, const FileRequest& request)
 {
-    QFileDialog dialog(parent);
-    Prepare(dialog, request);
-    dialog.setFileMode(QFileDialog::ExistingFile);
-    return Chosen(dialog);
+    return Open(parent, request, QFileDialog::ExistingFile);
 }
 
 QString QtDialogs::OpenOrCreateFile(QWidget* parent, const FileRequest& request)
 {
-    QFileDialog dialog(parent);
-    Prepare(dialog, request);
-    dialog.setFileMode(QFileDialog::AnyFile);
-    return Chosen(dialog);
+    return Open(parent, request, QFileDialog::AnyFile);
 }
 
 QString QtDialogs::SaveFile(QWidget* parent, const FileRequest& request, const QString& suffix)

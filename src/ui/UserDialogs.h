@@ -11,9 +11,9 @@ namespace ui {
 
 // What a file dialog asks for.
 struct FileRequest {
-    QString title;   // empty: the dialog's own
-    QString filter;  // "label|pattern;pattern|label|pattern"
-    QString folder;  // where it starts; empty: the current directory
+    QString title = {};   // empty: the dialog's own
+    QString filter = {};  // "label|pattern;pattern|label|pattern"
+    QString folder = {};  // where it starts; empty: the current directory
 };
 
 class UserDialogs {

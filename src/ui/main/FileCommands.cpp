@@ -52,36 +52,29 @@ QString WhyIgnored(const QString& file)
     return info.size() == 0 ? u" ist leer."_s : u" ist keine Stationsdatenbank."_s;
 }
 
-QString ImportedText(const stations::ImportResult& result)
+// How many lines, what happened to them, and the first of them.
+QString LinesText(std::size_t count, const QString& what, const QStringList& first)
 {
-    return result.imported == 1 ? u"1 Eintrag importiert"_s
-                                : u"%1 Einträge importiert"_s.arg(result.imported);
-}
-
-QString SkippedText(const stations::ImportResult& result)
-{
-    if (result.skipped == 0) {
+    if (count == 0) {
         return {};
     }
-    QString text = result.skipped == 1 ? u"\n1 Zeile wurde übersprungen:"_s
-                                       : u"\n%1 Zeilen wurden übersprungen:"_s.arg(result.skipped);
+    return (count == 1 ? u"\n1 Zeile wurde "_s : u"\n%1 Zeilen wurden "_s.arg(count)) + what
+           + u":\n"_s + first.join(u'\n')
+           + (count > static_cast<std::size_t>(first.size()) ? u"\n..."_s : QString());
+}
+
+QString NotImportedText(const stations::ImportResult& result)
+{
+    QStringList skipped;
     for (const stations::SkippedLine& line : result.firstSkipped) {
-        text += u"\nZeile %1: %2"_s.arg(line.number).arg(ReasonText(line.reason));
+        skipped << u"Zeile %1: %2"_s.arg(line.number).arg(ReasonText(line.reason));
     }
-    return result.skipped > result.firstSkipped.size() ? text + u"\n..."_s : text;
-}
-
-QString CutText(const stations::ImportResult& result)
-{
-    if (result.cut == 0) {
-        return {};
-    }
-    QString text = result.cut == 1 ? u"\n1 Zeile wurde gekürzt:"_s
-                                   : u"\n%1 Zeilen wurden gekürzt:"_s.arg(result.cut);
+    QStringList cut;
     for (const std::size_t line : result.firstCut) {
-        text += u"\nZeile %1: Text zu lang"_s.arg(line);
+        cut << u"Zeile %1: Text zu lang"_s.arg(line);
     }
-    return result.cut > result.firstCut.size() ? text + u"\n..."_s : text;
+    return LinesText(result.skipped, u"übersprungen"_s, skipped)
+           + LinesText(result.cut, u"gekürzt"_s, cut);
 }
 
 }  // namespace
@@ -96,7 +89,7 @@ FileCommands::FileCommands(QWidget& window, app::AppState& state, UserDialogs& d
 void FileCommands::Open()
 {
     const QString file = dialogs_.OpenFile(
-        &window_, {.title = u"QTH Datenbank öffnen"_s, .filter = kDatabaseFilter, .folder = {}});
+        &window_, {.title = u"QTH Datenbank öffnen"_s, .filter = kDatabaseFilter});
     if (file.isEmpty()) {
         return;
     }
@@ -120,7 +113,7 @@ void FileCommands::Open()
 void FileCommands::Append()
 {
     const QString file = dialogs_.OpenFile(
-        &window_, {.title = u"QTH Datenbank anfügen"_s, .filter = kDatabaseFilter, .folder = {}});
+        &window_, {.title = u"QTH Datenbank anfügen"_s, .filter = kDatabaseFilter});
     if (file.isEmpty()) {
         return;
     }
@@ -148,8 +141,7 @@ void FileCommands::MoveOutMarked()
 bool FileCommands::ExportMarked(const std::vector<std::size_t>& marked)
 {
     const QString file = dialogs_.SaveFile(
-        &window_,
-        {.title = u"Ausgewählte Einträge sichern"_s, .filter = kDatabaseFilter, .folder = {}},
+        &window_, {.title = u"Ausgewählte Einträge sichern"_s, .filter = kDatabaseFilter},
         u"QTH"_s);
     if (file.isEmpty()) {
         return false;
@@ -165,8 +157,7 @@ bool FileCommands::ExportMarked(const std::vector<std::size_t>& marked)
 
 void FileCommands::WriteListing()
 {
-    const QString file =
-        dialogs_.OpenOrCreateFile(&window_, {.title = {}, .filter = kListingFilter, .folder = {}});
+    const QString file = dialogs_.OpenOrCreateFile(&window_, {.filter = kListingFilter});
     if (file.isEmpty()) {
         return;
     }
@@ -185,8 +176,7 @@ void FileCommands::WriteListing()
 void FileCommands::ImportText()
 {
     const QString file = dialogs_.OpenFile(
-        &window_,
-        {.title = u"Excel Textfile import (TEST)"_s, .filter = kTextFilter, .folder = {}});
+        &window_, {.title = u"Excel Textfile import (TEST)"_s, .filter = kTextFilter});
     if (file.isEmpty()) {
         return;
     }
@@ -203,10 +193,12 @@ void FileCommands::ImportText()
     }
     const bool written = list_.TakeAndTell();
     const QString imported =
-        ImportedText(result) + (written ? u"!"_s : u", aber nicht gespeichert!"_s);
+        (result.imported == 1 ? u"1 Eintrag importiert"_s
+                              : u"%1 Einträge importiert"_s.arg(result.imported))
+        + (written ? u"!"_s : u", aber nicht gespeichert!"_s);
     // The notice would hide behind the box.
     if (result.skipped > 0 || result.cut > 0) {
-        dialogs_.Inform(&window_, {}, imported + SkippedText(result) + CutText(result));
+        dialogs_.Inform(&window_, {}, imported + NotImportedText(result));
     } else if (written) {
         notice_.ShowMessage(imported);
     }
@@ -233,21 +225,18 @@ bool FileCommands::MayListInto(const std::string& name)
 void FileCommands::Tell(ExchangeResult result, const QString& file)
 {
     const QString name = u"Die Datei "_s + file;
+    const auto inform = [&](const QString& reason) {
+        dialogs_.Inform(&window_, {}, name + reason);
+    };
     switch (result) {
     case ExchangeResult::Done: break;
     case ExchangeResult::Ignored: messages_.Tell(name + WhyIgnored(file)); break;
-    case ExchangeResult::Damaged:
-        dialogs_.Inform(&window_, {}, name + u" ist beschädigt und wird nicht gelesen!"_s);
-        break;
-    case ExchangeResult::Unreadable:
-        dialogs_.Inform(&window_, {}, name + u" lässt sich nicht lesen!"_s);
-        break;
+    case ExchangeResult::Damaged: inform(u" ist beschädigt und wird nicht gelesen!"_s); break;
+    case ExchangeResult::Unreadable: inform(u" lässt sich nicht lesen!"_s); break;
     case ExchangeResult::TooMany: TellTooManyRecords(&window_, dialogs_); break;
     case ExchangeResult::NameTooLong:
-        dialogs_.Inform(&window_, {},
-                        name
-                            + u" lässt sich nicht als Arbeitsdatei merken: Der Name ist länger "
-                              u"als 512 Zeichen oder endet mit einem Leerzeichen!"_s);
+        inform(u" lässt sich nicht als Arbeitsdatei merken: Der Name ist länger "
+               u"als 512 Zeichen oder endet mit einem Leerzeichen!"_s);
         break;
     }
 }
