@@ -5,7 +5,6 @@
 #include "geo/Distance.h"
 #include "geo/DistanceText.h"
 #include "ui/main/CoordinateForms.h"
-#include "ui/main/FormHeadings.h"
 #include "ui/main/ResultBlock.h"
 #include "ui/main/StationPanel.h"
 
@@ -33,13 +32,13 @@ constexpr EntryGroup kRefreshOrder[] = {EntryGroup::Decimal, EntryGroup::DegreeM
 }  // namespace
 
 CoordinateFields::CoordinateFields(app::AppState& state, std::array<StationPanel*, 2> panel,
-                                   FormHeadings& headings, ResultBlock& result, QObject* parent)
-    : QObject(parent), state_(state), panel_(panel), headings_(headings), result_(result)
+                                   DegreeOptions options, ResultBlock& result, QObject* parent)
+    : QObject(parent), state_(state), panel_(panel), options_(options), result_(result)
 {
     for (StationPanel* const p : panel_) {
         Connect(*p);
     }
-    for (QRadioButton* const option : headings_.Option2) {
+    for (QRadioButton* const option : options_) {
         connect(option, &QRadioButton::clicked, this, &CoordinateFields::Option2Clicked);
     }
 }
@@ -117,7 +116,7 @@ void CoordinateFields::SetPosition(int station, geo::GeoPosition position)
 void CoordinateFields::Set_GMS_String()
 {
     const geo::DegreeMinuteMode mode = state_.configuration.degreeFormat;
-    headings_.Option2[mode == geo::DegreeMinuteMode::Seconds ? 1 : 0]->setChecked(true);
+    options_[mode == geo::DegreeMinuteMode::Seconds ? 1 : 0]->setChecked(true);
     for (StationPanel* const panel : panel_) {
         panel->ShowUnits(mode);
         ShowForm(state_, *panel, EntryGroup::DegreeMinute);
@@ -139,9 +138,8 @@ void CoordinateFields::TakeConfiguration()
 void CoordinateFields::Option2Clicked()
 {
     state_.entry.activeGroup = EntryGroup::None;
-    state_.configuration.degreeFormat = headings_.Option2[0]->isChecked()
-                                            ? geo::DegreeMinuteMode::Hundredths
-                                            : geo::DegreeMinuteMode::Seconds;
+    state_.configuration.degreeFormat = options_[0]->isChecked() ? geo::DegreeMinuteMode::Hundredths
+                                                                 : geo::DegreeMinuteMode::Seconds;
     Set_GMS_String();
 }
 

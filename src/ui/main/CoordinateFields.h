@@ -7,11 +7,11 @@
 #include <QObject>
 
 #include "app/AppState.h"
+#include "ui/main/FormHeadings.h"
 
 namespace ui {
 
 class EntryField;
-class FormHeadings;
 class ResultBlock;
 class StationPanel;
 
@@ -25,7 +25,7 @@ class CoordinateFields : public QObject {
 
 public:
     CoordinateFields(app::AppState& state, std::array<StationPanel*, 2> panel,
-                     FormHeadings& headings, ResultBlock& result, QObject* parent = nullptr);
+                     DegreeOptions options, ResultBlock& result, QObject* parent = nullptr);
 
     // Sets a station from elsewhere: start-up, list, mean value, map click. Decimal degrees become
     // the active group; writing the two fields as plain decimal text derives all the other forms.
@@ -51,7 +51,7 @@ private:
 
     app::AppState& state_;
     std::array<StationPanel*, 2> panel_;
-    FormHeadings& headings_;
+    DegreeOptions options_;
     ResultBlock& result_;
 };
 

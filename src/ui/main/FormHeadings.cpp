@@ -12,7 +12,7 @@ namespace ui {
 
 using namespace Qt::StringLiterals;
 
-FormHeadings::FormHeadings(QGridLayout& grid, int row) : QObject(grid.parentWidget())
+DegreeOptions AddFormHeadings(QGridLayout& grid, int row)
 {
     QWidget* const window = grid.parentWidget();
     const struct {
@@ -38,20 +38,22 @@ FormHeadings::FormHeadings(QGridLayout& grid, int row) : QObject(grid.parentWidg
     const std::array captions = {u"G-M-H"_s, u"G-M-S"_s};
     const std::array toolTips = {u"Grad, Minuten, Hundertstel Minuten"_s,
                                  u"Grad, Minuten, Sekunden"_s};
-    for (std::size_t i = 0; i < Option2.size(); ++i) {
-        Option2[i] = Named(new QRadioButton(captions[i], window),
-                           ElementName("Option2", static_cast<int>(i)));
-        Option2[i]->setToolTip(toolTips[i]);
-        line->addWidget(Option2[i]);
+    DegreeOptions options = {};
+    for (std::size_t i = 0; i < options.size(); ++i) {
+        QRadioButton* const option = options[i] = Named(
+            new QRadioButton(captions[i], window), ElementName("Option2", static_cast<int>(i)));
+        option->setToolTip(toolTips[i]);
+        line->addWidget(option);
         // The Tab key reaches the chosen one. Qt sees to that only once one of them had the focus.
-        Option2[i]->setFocusPolicy(Qt::ClickFocus);
-        connect(Option2[i], &QRadioButton::toggled, this, [option = Option2[i]](bool chosen) {
+        option->setFocusPolicy(Qt::ClickFocus);
+        QObject::connect(option, &QRadioButton::toggled, option, [option](bool chosen) {
             option->setFocusPolicy(chosen ? Qt::StrongFocus : Qt::ClickFocus);
         });
     }
     line->addStretch();
-    Option2[0]->setChecked(true);
+    options[0]->setChecked(true);
     grid.addLayout(line, row, StationPanel::DegreeMinute);
+    return options;
 }
 
 }  // namespace ui

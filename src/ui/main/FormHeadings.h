@@ -4,22 +4,15 @@
 
 #include <array>
 
-#include <QObject>
-
 class QGridLayout;
 class QRadioButton;
 
 namespace ui {
 
-class FormHeadings : public QObject {
-    Q_OBJECT
+// "G-M-H", "G-M-S": how both stations show degree-minutes.
+using DegreeOptions = std::array<QRadioButton*, 2>;
 
-public:
-    // Takes one row of the grid that the station panels stand in.
-    FormHeadings(QGridLayout& grid, int row);
-
-    std::array<QRadioButton*, 2>
-        Option2;  // "G-M-H", "G-M-S": how both stations show degree-minutes
-};
+// Adds the headings to the grid that the station panels stand in, as one row.
+DegreeOptions AddFormHeadings(QGridLayout& grid, int row);
 
 }  // namespace ui

@@ -17,7 +17,6 @@
 #include "ui/main/Display.h"
 #include "ui/main/EditCommands.h"
 #include "ui/main/FileCommands.h"
-#include "ui/main/FormHeadings.h"
 #include "ui/main/MainMenu.h"
 #include "ui/main/MessageBar.h"
 #include "ui/main/PictureClip.h"
@@ -56,18 +55,14 @@ MainForm::MainForm(app::AppState& state, UserDialogs& dialogs)
     constexpr int kUsualHeight = 660;  // shows a dozen lines of the list
     resize(QSize(contents->sizeHint().width(), kUsualHeight).boundedTo(screen()->availableSize()));
 
-    fields_ = new CoordinateFields(state_, panel_, *headings_, *result_, this);
+    fields_ = new CoordinateFields(state_, panel_, degreeOptions_, *result_, this);
     configuration_ = new CfgForm(state_, this);
     notice_ = new Display(this);
     files_ = std::make_unique<FileCommands>(*this, state_, dialogs_, *list_, *notice_, *messages_);
     edits_ = std::make_unique<EditCommands>(state_, *this, *list_);
     stations_ =
         std::make_unique<StationCommands>(state_, dialogs_, *this, panel_, *list_, *notice_);
-    AddMainMenu(*this, {.files = *files_,
-                        .edits = *edits_,
-                        .configuration = *configuration_,
-                        .dialogs = dialogs_,
-                        .showMap = [this] { ShowMap(); }});
+    AddMainMenu(*this, dialogs_, *files_, *edits_, *configuration_, [this] { ShowMap(); });
     ConnectPanels();
     connect(fields_, &CoordinateFields::StationsChanged, this, &MainForm::Changed);
     connect(list_, &StationListFrame::DatabaseChanged, this,
@@ -99,7 +94,7 @@ QWidget* MainForm::NewContents()
     constexpr int kFormSpacing = 18;
     grid->setHorizontalSpacing(kFormSpacing);
     grid->setColumnStretch(StationPanel::Info, 1);
-    headings_ = new FormHeadings(*grid, 0);
+    degreeOptions_ = AddFormHeadings(*grid, 0);
     panel_[0] = new StationPanel(0, *grid, 1);
     panel_[1] = new StationPanel(1, *grid, 1 + StationPanel::kRows);
 

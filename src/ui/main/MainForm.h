@@ -10,6 +10,7 @@
 
 #include "app/AppState.h"
 #include "app/MainWindowPort.h"
+#include "ui/main/FormHeadings.h"
 
 namespace ui {
 
@@ -18,7 +19,6 @@ class CoordinateFields;
 class Display;
 class EditCommands;
 class FileCommands;
-class FormHeadings;
 class MessageBar;
 class PictureClip;
 class ResultBlock;
@@ -65,7 +65,7 @@ private:
 
     app::AppState& state_;
     UserDialogs& dialogs_;
-    FormHeadings* headings_ = nullptr;
+    DegreeOptions degreeOptions_ = {};
     std::array<StationPanel*, 2> panel_ = {};
     ResultBlock* result_ = nullptr;
     StationListFrame* list_ = nullptr;

@@ -51,12 +51,9 @@ void ShowVersions(QMainWindow& window, UserDialogs& dialogs)
 
 }  // namespace
 
-void AddMainMenu(QMainWindow& window, const MainCommands& commands)
+void AddMainMenu(QMainWindow& window, UserDialogs& dialogs, FileCommands& files,
+                 EditCommands& edits, CfgForm& configuration, const std::function<void()>& showMap)
 {
-    FileCommands& files = commands.files;
-    EditCommands& edits = commands.edits;
-    CfgForm& configuration = commands.configuration;
-    UserDialogs& dialogs = commands.dialogs;
     const auto marking = [&edits](stations::Equality equality) {
         return [&edits, equality](bool) { edits.MarkEqual(equality); };
     };
@@ -85,8 +82,7 @@ void AddMainMenu(QMainWindow& window, const MainCommands& commands)
                 {"MnuMiWert", u"S1 = Mittelwert markierte Stationen"_s,
                  [&edits](bool) { edits.SetStation1ToMean(); }},
             });
-    AddMenu(window, u"Ansicht"_s,
-            {{"MnuKarte", u"Karte"_s, [show = commands.showMap](bool) { show(); }}});
+    AddMenu(window, u"Ansicht"_s, {{"MnuKarte", u"Karte"_s, [showMap](bool) { showMap(); }}});
     AddMenu(window, u"Hilfe"_s,
             {
                 {"MnuFaq", u"FAQ"_s, [&window, &dialogs](bool) { ShowHelp(window, dialogs); },

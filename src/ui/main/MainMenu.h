@@ -13,15 +13,7 @@ class EditCommands;
 class FileCommands;
 class UserDialogs;
 
-// What the menu items act on.
-struct MainCommands {
-    FileCommands& files;
-    EditCommands& edits;
-    CfgForm& configuration;
-    UserDialogs& dialogs;
-    std::function<void()> showMap;
-};
-
-void AddMainMenu(QMainWindow& window, const MainCommands& commands);
+void AddMainMenu(QMainWindow& window, UserDialogs& dialogs, FileCommands& files,
+                 EditCommands& edits, CfgForm& configuration, const std::function<void()>& showMap);
 
 }  // namespace ui

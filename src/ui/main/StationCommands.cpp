@@ -1,18 +1,64 @@
 #include "ui/main/StationCommands.h"
 
+#include <cmath>
 #include <ctime>
 
 #include "base/TimeStamp.h"
 #include "ui/DatabaseActions.h"
+#include "ui/UserDialogs.h"
 #include "ui/main/Display.h"
 #include "ui/main/MainForm.h"
-#include "ui/main/SaveQuestion.h"
 #include "ui/main/StationListFrame.h"
 #include "ui/main/StationPanel.h"
 
 namespace ui {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+QString NameOf(stations::Field field)
+{
+    using stations::Field;
+    switch (field) {
+    case Field::Callsign: return u"Rufzeichen"_s;
+    case Field::Name: return u"Name"_s;
+    case Field::Place: return u"Ort"_s;
+    case Field::Frequency: return u"Frequenz"_s;
+    case Field::Remark: return u"Anmerkung"_s;
+    case Field::Date: return u"Datum"_s;
+    case Field::Reserved6:
+    case Field::Reserved7: break;
+    }
+    return {};
+}
+
+// False, with a message, for a position that is not finite; false, too, when the texts are together
+// too long for a record and the user, asked, does not want them cut. `now` stands in for an empty
+// date.
+bool MayStore(QWidget& window, UserDialogs& dialogs, int station,
+              const stations::StationTexts& texts, geo::GeoPosition position, std::string_view now)
+{
+    const QString name = u"Station %1"_s.arg(station + 1);
+    if (!std::isfinite(position.latitude) || !std::isfinite(position.longitude)) {
+        dialogs.Inform(&window, {},
+                       u"Die Koordinaten von "_s + name
+                           + u" ergeben keine Position, der Eintrag wird nicht gesichert!"_s);
+        return false;
+    }
+    QStringList cut;
+    for (const stations::Field field : stations::CutFields(texts, now)) {
+        cut << NameOf(field);
+    }
+    return cut.isEmpty()
+           || dialogs.AskOkCancel(
+               &window, u"Sichern"_s,
+               u"Die Texte von "_s + name
+                   + u" sind zusammen zu lang für einen Eintrag. Gekürzt oder weggelassen:\n"_s
+                   + cut.join(u", "_s) + u"\nTrotzdem sichern?"_s);
+}
+
+}  // namespace
 
 StationCommands::StationCommands(app::AppState& state, UserDialogs& dialogs, MainForm& window,
                                  std::array<StationPanel*, 2> panel, StationListFrame& list,

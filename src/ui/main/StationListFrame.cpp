@@ -70,9 +70,12 @@ QPushButton* StationListFrame::NewButton(const QString& name, const QString& tex
     return button;
 }
 
-void StationListFrame::List1Load()
+void StationListFrame::List1Load(const std::vector<double>& keyValues)
 {
-    FillList({});
+    model_->Fill(state_.list.key, keyValues);
+    List1->SetLongestLine(model_->LongestLine());
+    Command6->setEnabled(false);
+    Command7->setEnabled(false);
 }
 
 void StationListFrame::List1Check()
@@ -86,7 +89,7 @@ stations::Written StationListFrame::TakeDatabaseChange(const DatabaseChange& cha
 {
     // Filled before the file is written, so that behind a message about that the list still is the
     // database.
-    FillList(change.keyValues);
+    List1Load(change.keyValues);
     if (change.show) {
         change.show();
     }
@@ -105,14 +108,6 @@ bool StationListFrame::TakeAndTell(const DatabaseChange& change)
     const std::error_code error = TakeDatabaseChange(change).error;
     TellWriteError(window(), dialogs_, error, state_.configuration.workingFile);
     return !error;
-}
-
-void StationListFrame::FillList(const std::vector<double>& keyValues)
-{
-    model_->Fill(state_.list.key, keyValues);
-    List1->SetLongestLine(model_->LongestLine());
-    Command6->setEnabled(false);
-    Command7->setEnabled(false);
 }
 
 void StationListFrame::Open(app::ListMode mode, int targetPanel, QWidget* opener)

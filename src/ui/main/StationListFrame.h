@@ -39,8 +39,8 @@ public:
     // The same, and tells of an error; false then.
     bool TakeAndTell(const DatabaseChange& change = {});
 
-    // Fills the list: line k is record k. No line is marked afterwards.
-    void List1Load();
+    // Fills the list: line k is record k. No line is marked afterwards. `keyValues` as in a change.
+    void List1Load(const std::vector<double>& keyValues = {});
     // Fills the list when it has more or fewer lines than there are records.
     void List1Check();
 
@@ -73,7 +73,6 @@ signals:
 
 private:
     QPushButton* NewButton(const QString& name, const QString& text);
-    void FillList(const std::vector<double>& keyValues);
     void SortChosen(int entry);
 
     app::AppState& state_;
