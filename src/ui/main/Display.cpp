@@ -11,13 +11,6 @@ namespace ui {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr std::int16_t kLastTick = 100;
-constexpr std::int16_t kTickLimit = 32000;
-
-}  // namespace
-
 Display::Display(QWidget* parent) : QWidget(parent, Qt::Tool)
 {
     setObjectName(u"Display"_s);
@@ -54,6 +47,8 @@ void Display::ShowMessage(const QString& message)
 
 void Display::Tick()
 {
+    constexpr std::int16_t kLastTick = 100;
+    constexpr std::int16_t kTickLimit = 32000;
     ++ticks_;
     if (ticks_ == kLastTick) {
         hide();

@@ -70,8 +70,6 @@ QPixmap NewPicture(const QColor& colour, qreal ratio)
 
 }  // namespace
 
-PictureClip::PictureClip(QObject* parent) : QObject(parent) {}
-
 void PictureClip::Draw(const QPalette& palette, qreal ratio)
 {
     picture_ = NewPicture(palette.color(QPalette::Active, QPalette::ButtonText), ratio);

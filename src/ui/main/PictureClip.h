@@ -16,7 +16,7 @@ class PictureClip : public QObject {
 public:
     enum Piece { Load, Remove, Save, Map, Sort, MoveOut, Close, Pieces };
 
-    explicit PictureClip(QObject* parent = nullptr);
+    using QObject::QObject;
 
     // Draws the picture anew in the colours of the palette, so that it reads on light and on dark,
     // with `ratio` device pixels for each pixel.

@@ -15,12 +15,6 @@ namespace ui {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr QSize kStartSize{900, 680};
-
-}  // namespace
-
 Gform::Gform(app::AppState& state, MapImage& image, app::MainWindowPort& mainWindow,
              UserDialogs& dialogs)
     : pane(new MapPane(state, image, mainWindow, view_, this)), state_(state),
@@ -37,6 +31,7 @@ Gform::Gform(app::AppState& state, MapImage& image, app::MainWindowPort& mainWin
     connect(pane->Picture1, &MapSurface::Clicked, this, &Gform::Click);
     connect(pane->Picture1, &MapSurface::customContextMenuRequested, this, &Gform::OfferClickModes);
     connect(pane, &MapPane::ClipMoved, this, [this] { activatingPress_.ForgetClip(); });
+    constexpr QSize kStartSize{900, 680};
     resize(kStartSize);
 
     state_.map.clickMode = app::ClickMode::Nop;

@@ -2,17 +2,12 @@
 
 namespace ui {
 
-namespace {
-
-constexpr double kMiddle = 0.5;  // of a unit
-
-}  // namespace
-
 LinePainter::LinePainter(QImage& picture, plot::SurfaceSize surface, qreal scale)
     : painter_(&picture), surface_(surface)
 {
     painter_.setRenderHint(QPainter::Antialiasing);
     painter_.scale(scale, scale);
+    constexpr double kMiddle = 0.5;  // of a unit
     painter_.translate(kMiddle, kMiddle);
     painter_.setPen(QPen(kLineColour, 1.0));
 }

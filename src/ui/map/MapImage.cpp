@@ -1,5 +1,6 @@
 #include "ui/map/MapImage.h"
 
+#include <algorithm>
 #include <limits>
 #include <utility>
 
@@ -22,14 +23,10 @@ constexpr std::uint64_t kReserve = std::uint64_t{64} << 20U;
 
 bool CanBeClipped(QImage::Format format)
 {
-    switch (format) {
-    case QImage::Format_RGB32:
-    case QImage::Format_Grayscale8:
-    case QImage::Format_Indexed8:
-    case QImage::Format_Mono:
-    case QImage::Format_MonoLSB: return true;
-    default: return false;
-    }
+    constexpr QImage::Format kForms[] = {QImage::Format_RGB32, QImage::Format_Grayscale8,
+                                         QImage::Format_Indexed8, QImage::Format_Mono,
+                                         QImage::Format_MonoLSB};
+    return std::ranges::find(kForms, format) != std::end(kForms);
 }
 
 std::uint64_t BytesNeeded(const QImageReader& reader)

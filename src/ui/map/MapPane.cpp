@@ -18,14 +18,6 @@ namespace ui {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr int kGap = 6;  // around the controls in the right strip
-constexpr int kButtonHeight = 28;
-constexpr int kNotch = 120;  // eighths of a degree in one notch of the wheel
-
-}  // namespace
-
 MapPane::MapPane(app::AppState& state, const MapImage& image, const app::MainWindowPort& mainWindow,
                  plot::MapView& view, QWidget* parent)
     : QWidget(parent), state_(state), image_(image), view_(view), painter_(state, image, mainWindow)
@@ -111,6 +103,8 @@ void MapPane::Layout()
 
 void MapPane::LayoutStrip(int left)
 {
+    constexpr int kGap = 6;  // around the controls
+    constexpr int kButtonHeight = 28;
     const int x = left + kGap;
     const int width = plot::kRightStrip - 2 * kGap;
     Command2->setGeometry(x, kGap, width, kButtonHeight);
@@ -154,6 +148,7 @@ void MapPane::ScrollTo(plot::SurfacePoint clipOrigin) const
 // What a wheel or a touchpad turns in small steps is summed up until it is worth a step.
 void MapPane::Turn(QPoint eighths)
 {
+    constexpr int kNotch = 120;  // eighths of a degree in one notch of the wheel
     turned_ += eighths;
     if (!state_.map.mapImage) {
         const int notches = turned_.y() / kNotch;

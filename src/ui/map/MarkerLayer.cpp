@@ -12,11 +12,6 @@ namespace {
 // Pictures that the frame does not use are dropped beyond this (64 MB).
 constexpr std::size_t kMostKeptPixels = std::size_t{16} << 20U;
 
-plot::SurfaceSize Size(const plot::PixelBox& box)
-{
-    return {.width = box.right - box.left, .height = box.bottom - box.top};
-}
-
 }  // namespace
 
 void MarkerLayer::Restart()
@@ -54,11 +49,8 @@ void MarkerLayer::FindVisible(plot::SurfaceSize picture, std::span<const Marker>
         const Marker& marker = markers[i];
         Picture& label = Measured(marker.label);
         const plot::PixelBox plate = painter_->Plate(marker.at, label.textWidth);
-        const plot::PixelBox reach =
-            label.staysOnPlate
-                ? plate
-                : painter_->Reach(marker.at, labels_.Text(marker.label), label.textWidth);
-        const plot::PixelBox part = mask_.FreePart(reach);
+        const plot::PixelBox part =
+            mask_.FreePart(label.staysOnPlate ? plate : painter_->Reach(plate));
         if (!part.Empty()) {
             mask_.Cover(plate);
             label.inUse = true;
@@ -86,22 +78,22 @@ void MarkerLayer::PaintMissing(std::span<const Marker> markers)
             continue;
         }
         const plot::PixelBox plate = painter_->Plate({}, picture.textWidth);
-        const plot::SurfaceSize size = Size(plate);
-        if (size.width > sheet.width() || size.height > sheet.height()) {
+        const QSize size(plate.right - plate.left, plate.bottom - plate.top);
+        if (size.width() > sheet.width() || size.height() > sheet.height()) {
             if (painter.isActive()) {
                 painter.end();
             }
-            sheet = QImage(size.width + size.width / 2, size.height, QImage::Format_RGB32);
+            sheet = QImage(size.width() + size.width() / 2, size.height(), QImage::Format_RGB32);
             painter.begin(&sheet);
             painter.translate(-plate.left, -plate.top);
         }
         painter_->DrawMarker(painter, {}, labels_.Text(label));
-        picture.pixels.resize(static_cast<std::size_t>(size.width)
-                              * static_cast<std::size_t>(size.height));
+        picture.pixels.resize(static_cast<std::size_t>(size.width())
+                              * static_cast<std::size_t>(size.height()));
         QRgb* to = picture.pixels.data();
-        for (int row = 0; row < size.height; ++row, to += size.width) {
+        for (int row = 0; row < size.height(); ++row, to += size.width()) {
             const auto* const from = reinterpret_cast<const QRgb*>(sheet.constScanLine(row));
-            std::copy_n(from, size.width, to);
+            std::copy_n(from, size.width(), to);
         }
         keptPixels_ += picture.pixels.size();
     }

@@ -157,23 +157,17 @@ void MarkerPainter::FindOverhang()
 
 bool MarkerPainter::StaysOnPlate(std::string_view text) const
 {
-    return std::all_of(text.begin(), text.end(), [this](char c) {
-        return characters_[Index(c)].simple && characters_[Index(c)].staysOnPlate;
-    });
+    return std::all_of(text.begin(), text.end(),
+                       [this](char c) { return characters_[Index(c)].staysOnPlate; });
 }
 
-plot::PixelBox MarkerPainter::Reach(plot::SurfacePoint at, std::string_view text,
-                                    int textWidth) const
+plot::PixelBox MarkerPainter::Reach(const plot::PixelBox& plate) const
 {
-    plot::PixelBox box = Plate(at, textWidth);
-    if (!StaysOnPlate(text)) {
-        const int margin = Device(kOverhang);
-        box.left -= margin;
-        box.top -= margin;
-        box.right += margin;
-        box.bottom += margin;
-    }
-    return box;
+    const int margin = Device(kOverhang);
+    return {.left = plate.left - margin,
+            .top = plate.top - margin,
+            .right = plate.right + margin,
+            .bottom = plate.bottom + margin};
 }
 
 void MarkerPainter::DrawMarker(QPainter& painter, plot::SurfacePoint at,

@@ -42,8 +42,8 @@ public:
     // above it.
     bool StaysOnPlate(std::string_view text) const;
 
-    // Every pixel that the marker may touch.
-    plot::PixelBox Reach(plot::SurfacePoint at, std::string_view text, int textWidth) const;
+    // Every pixel that a marker whose text leaves its plate may touch.
+    plot::PixelBox Reach(const plot::PixelBox& plate) const;
 
     // `painter` draws in device pixels, without antialiasing of shapes.
     void DrawMarker(QPainter& painter, plot::SurfacePoint at, std::string_view text) const;

@@ -8,12 +8,6 @@
 
 namespace ui {
 
-namespace {
-
-constexpr int kLeast = 6;  // of the window stays free on its left
-
-}  // namespace
-
 PropertiesList::PropertiesList(QWidget* parent) : QListWidget(parent)
 {
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -34,6 +28,7 @@ void PropertiesList::Unfold(std::span<const std::string> lines)
 QRect PropertiesList::Place(QRect folded) const
 {
     if (unfolded_) {
+        constexpr int kLeast = 6;  // of the window stays free on its left
         const int frame = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
         folded.setLeft(std::max(kLeast, folded.right() - sizeHintForColumn(0) - frame));
         const int lines = count() * sizeHintForRow(0);
