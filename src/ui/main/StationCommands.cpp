@@ -17,22 +17,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString NameOf(stations::Field field)
-{
-    using stations::Field;
-    switch (field) {
-    case Field::Callsign: return u"Rufzeichen"_s;
-    case Field::Name: return u"Name"_s;
-    case Field::Place: return u"Ort"_s;
-    case Field::Frequency: return u"Frequenz"_s;
-    case Field::Remark: return u"Anmerkung"_s;
-    case Field::Date: return u"Datum"_s;
-    case Field::Reserved6:
-    case Field::Reserved7: break;
-    }
-    return {};
-}
-
 // False, with a message, for a position that is not finite; false, too, when the texts are together
 // too long for a record and the user, asked, does not want them cut. `now` stands in for an empty
 // date.
@@ -46,9 +30,12 @@ bool MayStore(QWidget& window, UserDialogs& dialogs, int station,
                            + u" ergeben keine Position, der Eintrag wird nicht gesichert!"_s);
         return false;
     }
+    // In the order of stations::Field.
+    const QStringList names = {u"Rufzeichen"_s, u"Name"_s,      u"Ort"_s,
+                               u"Frequenz"_s,   u"Anmerkung"_s, u"Datum"_s};
     QStringList cut;
     for (const stations::Field field : stations::CutFields(texts, now)) {
-        cut << NameOf(field);
+        cut << names.value(static_cast<int>(field));
     }
     return cut.isEmpty()
            || dialogs.AskOkCancel(
