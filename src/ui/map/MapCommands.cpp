@@ -81,7 +81,9 @@ void MapCommands::ShowProperties()
 
 void MapCommands::ReferencesFromBounds()
 {
-    files_.ReferencesFromBounds();
+    constexpr std::int16_t kCorners = 4;
+    state_.map.references.Replace(map::ReferencesFromInf(state_.map.bounds, image_.Size()),
+                                  kCorners);
     view_.grid.reset();
     Show();
 }

@@ -4,7 +4,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QImageReader>
 
 #include "base/FileBytes.h"
 #include "base/FileNames.h"
@@ -39,22 +38,6 @@ std::string_view Text(base::ByteView bytes)
 QString SizeText(map::ImageSize size)
 {
     return QString::number(size.width) + u" x "_s + QString::number(size.height);
-}
-
-// Behind the usual pictures and all files, what else can be read here.
-QString PictureFilter()
-{
-    const QString usual = u"Bilder (*.jpg;*.gif)|*.jpg;*.jpeg;*.gif|alle Dateien (*.*)|*.*"_s;
-    const QString portable = u"|PNG-Bilder (*.png)|*.png"_s;
-    QStringList others;
-    for (const QByteArray& format : QImageReader::supportedImageFormats()) {
-        const QString pattern = u"*."_s + QString::fromLatin1(format);
-        if (!QStringList{u"*.jpg"_s, u"*.jpeg"_s, u"*.gif"_s, u"*.png"_s}.contains(pattern)) {
-            others << pattern;
-        }
-    }
-    return usual + portable
-           + (others.isEmpty() ? QString() : u"|weitere Bilder|"_s + others.join(u';'));
 }
 
 }  // namespace
@@ -250,13 +233,6 @@ void MapFiles::SaveCalibration()
     WriteCompanion(
         *name, [](base::ByteView old) { return map::IsInf(Text(old)); },
         base::ByteView(bytes, text->size()));
-}
-
-void MapFiles::ReferencesFromBounds()
-{
-    constexpr std::int16_t kCorners = 4;
-    state_.map.references.Replace(map::ReferencesFromInf(state_.map.bounds, image_.Size()),
-                                  kCorners);
 }
 
 }  // namespace ui

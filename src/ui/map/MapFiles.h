@@ -25,14 +25,8 @@ public:
     // everything as it was, when the user cancels or the picture cannot be loaded.
     bool Load();
 
-    // "Justage speichern".
-    void SaveAdjustment();
-
-    // "UI-View INF File erzeugen".
-    void SaveCalibration();
-
-    // "Referenz aus INF erzeugen": four references at the corners of the image.
-    void ReferencesFromBounds();
+    void SaveAdjustment();   // "Justage speichern"
+    void SaveCalibration();  // "UI-View INF File erzeugen"
 
 private:
     bool LoadPicture(const QString& file);

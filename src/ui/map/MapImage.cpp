@@ -60,6 +60,21 @@ std::uint64_t FreeMemory()
     return kUnknown;
 }
 
+QString PictureFilter()
+{
+    const QString usual = u"Bilder (*.jpg;*.gif)|*.jpg;*.jpeg;*.gif|alle Dateien (*.*)|*.*"_s;
+    const QString portable = u"|PNG-Bilder (*.png)|*.png"_s;
+    QStringList others;
+    for (const QByteArray& format : QImageReader::supportedImageFormats()) {
+        const QString pattern = u"*."_s + QString::fromLatin1(format);
+        if (!QStringList{u"*.jpg"_s, u"*.jpeg"_s, u"*.gif"_s, u"*.png"_s}.contains(pattern)) {
+            others << pattern;
+        }
+    }
+    return usual + portable
+           + (others.isEmpty() ? QString() : u"|weitere Bilder|"_s + others.join(u';'));
+}
+
 PictureStatus MapImage::Load(const QString& file, std::uint64_t freeMemory)
 {
     QImageReader reader(file);

@@ -25,6 +25,10 @@ enum class PictureStatus {
 // where the system does not tell.
 std::uint64_t FreeMemory();
 
+// The filter of a file dialog for pictures: the usual ones, all files, and what else can be read
+// here.
+QString PictureFilter();
+
 class MapImage {
 public:
     // Loads a JPEG, GIF or PNG file, or another that Qt reads. Unless the result is Loaded, the old
