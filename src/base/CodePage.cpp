@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -29,6 +30,11 @@ char CodePageByte(char32_t character)
     return static_cast<char>(static_cast<unsigned char>(0x80 + (found - kHighControls.begin())));
 }
 
+bool IsAscii(char c)
+{
+    return static_cast<unsigned char>(c) < 0x80;
+}
+
 // Number of ASCII bytes that `text` begins with. Most texts are nothing else, so they are looked at
 // eight bytes at a time.
 std::size_t AsciiLength(std::string_view text)
@@ -41,34 +47,8 @@ std::size_t AsciiLength(std::string_view text)
             break;
         }
     }
-    while (length < text.size() && static_cast<unsigned char>(text[length]) < 0x80) {
-        ++length;
-    }
-    return length;
-}
-
-// Length of the sequence that starts with `lead` and the smallest character it may encode.
-struct SequenceForm {
-    std::size_t length;
-    char32_t smallest;
-    unsigned char leadBits;
-};
-
-SequenceForm FormOf(unsigned char lead)
-{
-    if (lead < 0x80) {
-        return {.length = 1, .smallest = 0, .leadBits = 0x7F};
-    }
-    if ((lead & 0xE0U) == 0xC0U) {
-        return {.length = 2, .smallest = 0x80, .leadBits = 0x1F};
-    }
-    if ((lead & 0xF0U) == 0xE0U) {
-        return {.length = 3, .smallest = 0x800, .leadBits = 0x0F};
-    }
-    if ((lead & 0xF8U) == 0xF0U) {
-        return {.length = 4, .smallest = 0x10000, .leadBits = 0x07};
-    }
-    return {.length = 0, .smallest = 0, .leadBits = 0};
+    const auto* const end = std::find_if_not(text.begin() + length, text.end(), IsAscii);
+    return static_cast<std::size_t>(end - text.begin());
 }
 
 bool IsScalarValue(char32_t character)
@@ -81,46 +61,41 @@ bool IsScalarValue(char32_t character)
 DecodedCharacter DecodeUtf8(std::string_view text)
 {
     constexpr DecodedCharacter kMalformed = {.character = U'?', .length = 1, .valid = false};
+    // The smallest character of each length; for less a shorter sequence would do.
+    constexpr std::array<char32_t, 5> kSmallest = {0, 0, 0x80, 0x800, 0x10000};
     const auto lead = static_cast<unsigned char>(text.front());
-    const SequenceForm form = FormOf(lead);
-    if (form.length == 0 || form.length > text.size()) {
+    const auto ones = static_cast<std::size_t>(std::countl_one(lead));
+    const std::size_t length = ones == 0 ? 1 : ones;
+    if (ones == 1 || length >= kSmallest.size() || length > text.size()) {
         return kMalformed;
     }
-    char32_t character = lead & form.leadBits;
-    for (std::size_t i = 1; i < form.length; ++i) {
+    char32_t character = lead & (0x7FU >> ones);
+    for (std::size_t i = 1; i < length; ++i) {
         const auto next = static_cast<unsigned char>(text[i]);
         if ((next & 0xC0U) != 0x80U) {
             return kMalformed;
         }
         character = (character << 6U) | (next & 0x3FU);
     }
-    if (character < form.smallest || !IsScalarValue(character)) {
+    if (character < kSmallest[length] || !IsScalarValue(character)) {
         return kMalformed;
     }
-    return {.character = character, .length = form.length, .valid = true};
+    return {.character = character, .length = length, .valid = true};
 }
 
 void AppendUtf8(std::string& text, char32_t character)
 {
-    const auto tail = [&](unsigned shift) {
-        text += static_cast<char>(0x80U | ((character >> shift) & 0x3FU));
-    };
     if (!IsScalarValue(character)) {
         text += '?';
     } else if (character < 0x80) {
         text += static_cast<char>(character);
-    } else if (character < 0x800) {
-        text += static_cast<char>(0xC0U | (character >> 6U));
-        tail(0);
-    } else if (character < 0x10000) {
-        text += static_cast<char>(0xE0U | (character >> 12U));
-        tail(6);
-        tail(0);
     } else {
-        text += static_cast<char>(0xF0U | (character >> 18U));
-        tail(12);
-        tail(6);
-        tail(0);
+        const unsigned tails = character < 0x800 ? 1 : character < 0x10000 ? 2 : 3;
+        // One more leading bit than there are tails, of six bits each.
+        text += static_cast<char>(0xF80U >> tails | character >> 6U * tails);
+        for (unsigned tail = tails; tail-- > 0;) {
+            text += static_cast<char>(0x80U | (character >> 6U * tail & 0x3FU));
+        }
     }
 }
 

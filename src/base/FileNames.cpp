@@ -37,6 +37,33 @@ std::string FolderOf(const std::string& name)
     return slash == 0 ? "/" : name.substr(0, slash);
 }
 
+std::string FollowLinks(const std::string& name)
+{
+    constexpr int kLongestChain = 40;
+    std::filesystem::path current = name;
+    std::error_code error;
+    for (int links = 0; links < kLongestChain; ++links) {
+        const std::filesystem::path next = std::filesystem::read_symlink(current, error);
+        if (error) {
+            break;
+        }
+        current = FolderOf(current.string()) / next;
+    }
+    return current.string();
+}
+
+bool FolderExists(const std::string& folder)
+{
+    std::error_code error;
+    return std::filesystem::is_directory(folder, error);
+}
+
+bool NameExists(const std::string& name)
+{
+    std::error_code error;
+    return std::filesystem::exists(std::filesystem::symlink_status(name, error));
+}
+
 std::string FoldCase(std::string_view text)
 {
     const std::string utf8 = IsUtf8(text) ? std::string(text) : FromCodePage(text);

@@ -43,9 +43,8 @@ bool SameFile(const std::string& first, const std::string& second);
 
 // Keeps the bytes of a file, before it is replaced, beside it as NAME.ALT, or NAME.ALT2, NAME.ALT3
 // ... when that exists. The file stays under its own name. Nothing happens to a missing or empty
-// file, nor when one of these names is already the very same file.
-std::error_code SetAside(const std::string& name);
-// The same; `copy` becomes the name under which the bytes are kept, empty when nothing had to be.
+// file, nor when one of these names is already the very same file. `copy` becomes the name under
+// which the bytes are kept, empty when nothing had to be.
 std::error_code SetAside(const std::string& name, std::string& copy);
 
 }  // namespace base

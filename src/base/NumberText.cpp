@@ -14,24 +14,7 @@ namespace base {
 
 namespace {
 
-bool IsDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
-
-// The digits and the one point that `text` begins with.
-std::string_view LeadingDigits(std::string_view text)
-{
-    std::size_t length = 0;
-    bool point = false;
-    while (length < text.size() && (IsDigit(text[length]) || (text[length] == '.' && !point))) {
-        point = point || text[length] == '.';
-        ++length;
-    }
-    return text.substr(0, length);
-}
-
-// What a run of digits beyond the range of a double stands for: too large or too small.
+// What digits beyond the range of a double stand for: too large or too small.
 double NearestFinite(std::string_view digits)
 {
     const std::size_t first = digits.find_first_not_of('0');
@@ -64,54 +47,25 @@ Pattern ParsePattern(std::string_view pattern)
     };
 }
 
-// Room for the longest double in fixed notation: 309 digits, a point and the decimals.
-using DigitBuffer = std::array<char, 400>;
-
-std::string_view Print(DigitBuffer& buffer, double magnitude, std::size_t decimals)
-{
-    const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude,
-                                            std::chars_format::fixed, static_cast<int>(decimals));
-    return {buffer.data(), static_cast<std::size_t>(end - buffer.data())};
-}
-
-// True when the exact value lies halfway between two texts of `decimals` decimals. With d decimals
-// that is an odd multiple of 10^-d / 2, which a double can hold only as an odd multiple of
-// 2^-(d+1).
-bool IsTie(double magnitude, std::size_t decimals)
-{
-    const double half = std::ldexp(magnitude, static_cast<int>(decimals));
-    return half - std::floor(half) == 0.5;
-}
-
-// Decimal text one unit of its last place larger.
-std::string Increment(std::string_view digits)
-{
-    std::string text(digits);
-    for (std::size_t i = text.size(); i-- > 0;) {
-        if (text[i] == '9') {
-            text[i] = '0';
-        } else if (text[i] != '.') {
-            ++text[i];
-            return text;
-        }
-    }
-    return '1' + text;
-}
-
 // `magnitude` with `decimals` decimals, halves rounded up.
 std::string RoundedDigits(double magnitude, std::size_t decimals)
 {
-    DigitBuffer buffer;
     constexpr double kAllWhole = 9007199254740992.0;  // 2^53; a double from here on has no fraction
     if (decimals == 0 && magnitude < kAllWhole && magnitude == std::floor(magnitude)) {
         return std::to_string(static_cast<std::uint64_t>(magnitude));
     }
-    if (!IsTie(magnitude, decimals)) {
-        return std::string(Print(buffer, magnitude, decimals));
+    std::array<char, 400> buffer;  // the longest double: 309 digits, a point and the decimals
+    const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude,
+                                            std::chars_format::fixed, static_cast<int>(decimals));
+    std::string digits(buffer.data(), end);
+    // A half was rounded to the even digit: where that is the one below it, one more is due. With d
+    // decimals a half is an odd multiple of 10^-d / 2, which a double can hold only as an odd
+    // multiple k of 2^-(d+1); the digit below is even when k mod 4 is 1, because 5 mod 4 is.
+    const double halves = std::ldexp(magnitude, static_cast<int>(decimals));
+    if (halves - 2.0 * std::floor(halves / 2.0) == 0.5) {
+        ++digits.back();
     }
-    std::string_view digits = Print(buffer, magnitude, decimals + 1);  // exact; ends in 5
-    digits.remove_suffix(decimals == 0 ? 2 : 1);
-    return Increment(digits);
+    return digits;
 }
 
 }  // namespace
@@ -130,7 +84,7 @@ double Val(std::string_view text)
     if (negative || (!text.empty() && text.front() == '+')) {
         text.remove_prefix(1);
     }
-    const std::string_view digits = LeadingDigits(text);
+    const std::string_view digits = text.substr(0, text.find_first_not_of("0123456789."));
     double magnitude = 0.0;
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(),
                                               magnitude, std::chars_format::fixed);

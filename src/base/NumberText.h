@@ -32,8 +32,6 @@ public:
     // `decimalSeparator` is UTF-8; it may be longer than one byte.
     explicit NumberFormat(std::string decimalSeparator = ".");
 
-    const std::string& DecimalSeparator() const { return decimalSeparator_; }
-
     // `value` by `pattern`: the first run of "#" and "0", with the decimals behind it, is replaced
     // by the number, what stands before and behind it is copied. Each "0" is a digit that is always
     // shown, "#" one that may be left out; more digits before the separator than the pattern has

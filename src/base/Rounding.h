@@ -16,16 +16,10 @@ inline double RoundHalfEven(double value)
 {
     const double below = std::floor(value);
     const double rest = value - below;
-    if (rest < 0.5) {
+    if (rest < 0.5 || (rest == 0.5 && std::fmod(below, 2.0) == 0.0)) {
         return below;
     }
-    if (rest > 0.5) {
-        return below + 1.0;
-    }
-    if (rest == 0.5) {
-        return std::fmod(below, 2.0) == 0.0 ? below : below + 1.0;
-    }
-    return value;
+    return rest >= 0.5 ? below + 1.0 : value;
 }
 
 // Whole part of `value` as an integer type, truncated towards zero and kept within the type's

@@ -160,7 +160,8 @@ TEST_F(FileFailureTest, GoesOnAfterWritesDoneInPart)
 TEST_F(FileFailureTest, SetsAsideByACopyWhereTheFileSystemHasNoLinks)
 {
     fault = {.step = Step::Link, .countdown = 1, .error = EPERM};
-    EXPECT_FALSE(SetAside("a"));
+    std::string copy;
+    EXPECT_FALSE(SetAside("a", copy));
     EXPECT_EQ(GetFile("a"), "old") << "never vacant";
     EXPECT_EQ(GetFile("a.ALT"), "old");
 }

@@ -25,6 +25,7 @@ TEST(FolderOf, GivesEveryNameAFolder)
 class FileNamesTest : public testing::Test {
 protected:
     TemporaryFolder folder;
+    std::string copy;  // where bytes were set aside
 };
 
 TEST_F(FileNamesTest, FollowsLinksFromTheirOwnFolder)
@@ -66,14 +67,14 @@ TEST_F(FileNamesTest, KnowsTheSameFileBeforeItExists)
 TEST_F(FileNamesTest, SetsASideUnderTheNextFreeName)
 {
     PutFile("W.QTH", "one");
-    EXPECT_FALSE(SetAside("W.QTH"));
+    EXPECT_FALSE(SetAside("W.QTH", copy));
     EXPECT_EQ(GetFile("W.QTH.ALT"), "one");
     fs::remove("W.QTH");
     PutFile("W.QTH", "two");
-    EXPECT_FALSE(SetAside("W.QTH"));
+    EXPECT_FALSE(SetAside("W.QTH", copy));
     fs::remove("W.QTH");
     PutFile("W.QTH", "three");
-    EXPECT_FALSE(SetAside("W.QTH"));
+    EXPECT_FALSE(SetAside("W.QTH", copy));
     EXPECT_EQ(GetFile("W.QTH.ALT"), "one");
     EXPECT_EQ(GetFile("W.QTH.ALT2"), "two");
     EXPECT_EQ(GetFile("W.QTH.ALT3"), "three");
@@ -82,8 +83,8 @@ TEST_F(FileNamesTest, SetsASideUnderTheNextFreeName)
 TEST_F(FileNamesTest, SetsTheSameBytesAsideOnlyOnce)
 {
     PutFile("a", "x");
-    EXPECT_FALSE(SetAside("a"));
-    EXPECT_FALSE(SetAside("a"));
+    EXPECT_FALSE(SetAside("a", copy));
+    EXPECT_FALSE(SetAside("a", copy));
     EXPECT_EQ(TemporaryFolder::Names(), (Names{"a", "a.ALT"}));
 }
 
@@ -117,7 +118,7 @@ TEST_F(FileNamesTest, TellsWhatIsThere)
 TEST_F(FileNamesTest, TellsUnderWhichNameBytesAreKept)
 {
     PutFile("a", "x");
-    std::string copy = "old";
+    copy = "old";
     EXPECT_FALSE(SetAside("a", copy));
     EXPECT_EQ(copy, "a.ALT");
     EXPECT_FALSE(SetAside("missing", copy));
@@ -127,8 +128,8 @@ TEST_F(FileNamesTest, TellsUnderWhichNameBytesAreKept)
 TEST_F(FileNamesTest, HasNothingToSetAsideOfAMissingOrEmptyFile)
 {
     PutFile("empty", "");
-    EXPECT_FALSE(SetAside("empty"));
-    EXPECT_FALSE(SetAside("missing"));
+    EXPECT_FALSE(SetAside("empty", copy));
+    EXPECT_FALSE(SetAside("missing", copy));
     EXPECT_EQ(TemporaryFolder::Names(), Names{"empty"});
 }
 
@@ -137,7 +138,7 @@ TEST_F(FileNamesTest, SetsTheTargetOfALinkAsideBesideIt)
     fs::create_directory("sub");
     PutFile("sub/target", "x");
     fs::create_symlink("sub/target", "link");
-    EXPECT_FALSE(SetAside("link"));
+    EXPECT_FALSE(SetAside("link", copy));
     EXPECT_EQ(GetFile("sub/target.ALT"), "x");
     EXPECT_TRUE(fs::is_symlink("link"));
 }
@@ -145,7 +146,7 @@ TEST_F(FileNamesTest, SetsTheTargetOfALinkAsideBesideIt)
 TEST_F(FileNamesTest, DoesNotSetAFolderAside)
 {
     fs::create_directory("sub");
-    EXPECT_TRUE(SetAside("sub"));
+    EXPECT_TRUE(SetAside("sub", copy));
     EXPECT_EQ(TemporaryFolder::Names(), Names{"sub"});
 }
 

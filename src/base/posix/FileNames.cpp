@@ -1,8 +1,6 @@
 #include "base/FileNames.h"
 
-#include <array>
 #include <cerrno>
-#include <climits>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -30,37 +28,9 @@ std::string LastPart(const std::string& name)
 
 }  // namespace
 
-std::string FollowLinks(const std::string& name)
-{
-    constexpr int kLongestChain = 40;
-    std::string current = name;
-    for (int links = 0; links < kLongestChain; ++links) {
-        std::array<char, PATH_MAX> target;
-        const ssize_t length = readlink(current.c_str(), target.data(), target.size());
-        if (length <= 0) {
-            break;
-        }
-        const std::string next(target.data(), static_cast<std::size_t>(length));
-        current = next.front() == '/' ? next : FolderOf(current).append("/").append(next);
-    }
-    return current;
-}
-
-bool FolderExists(const std::string& folder)
-{
-    struct stat status = {};
-    return stat(folder.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
-}
-
 bool MayWriteIn(const std::string& folder)
 {
     return access(folder.c_str(), W_OK | X_OK) == 0;
-}
-
-bool NameExists(const std::string& name)
-{
-    struct stat status = {};
-    return lstat(name.c_str(), &status) == 0;
 }
 
 std::error_code SyncFolder(const std::string& folder)
@@ -93,12 +63,6 @@ bool SameFile(const std::string& first, const std::string& second)
            && stat(FolderOf(firstTarget).c_str(), &firstStatus) == 0
            && stat(FolderOf(secondTarget).c_str(), &secondStatus) == 0
            && SameStatus(firstStatus, secondStatus);
-}
-
-std::error_code SetAside(const std::string& name)
-{
-    std::string ignored;
-    return SetAside(name, ignored);
 }
 
 std::error_code SetAside(const std::string& name, std::string& copy)
