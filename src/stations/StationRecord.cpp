@@ -1,9 +1,6 @@
 #include "stations/StationRecord.h"
 
 #include <algorithm>
-#include <array>
-#include <bit>
-#include <utility>
 
 #include "base/CodePage.h"
 
@@ -19,23 +16,9 @@ std::vector<Field> StoreTexts(StationRecord& record, const StationTexts& texts,
                               std::string_view now)
 {
     const std::string_view date = Trimmed(texts.date).empty() ? now : texts.date;
-    const std::array<std::pair<Field, std::string_view>, 6> fields = {{
-        {Field::Callsign, texts.callsign},
-        {Field::Name, texts.name},
-        {Field::Place, texts.place},
-        {Field::Frequency, texts.frequency},
-        {Field::Remark, texts.remark},
-        {Field::Date, date},
-    }};
-    std::vector<Field> cut;
-    for (const auto& [field, text] : fields) {
-        if (!record.SetBytes(field, base::ToCodePage(text))) {
-            cut.push_back(field);
-        }
-    }
-    record.SetBytes(Field::Reserved6, {});
-    record.SetBytes(Field::Reserved7, {});
-    return cut;
+    return record.SetTexts({base::ToCodePage(texts.callsign), base::ToCodePage(texts.name),
+                            base::ToCodePage(texts.place), base::ToCodePage(texts.frequency),
+                            base::ToCodePage(texts.remark), base::ToCodePage(date)});
 }
 
 }  // namespace
@@ -57,6 +40,19 @@ bool StationRecord::SetBytes(Field field, std::string_view bytes)
     std::copy(stored.begin(), stored.end(), text_.data() + start - 1);
     ends_[k] = static_cast<std::uint8_t>(start + stored.size());
     return stored.size() == text.size();
+}
+
+std::vector<Field> StationRecord::SetTexts(const std::array<std::string_view, 6>& texts)
+{
+    std::vector<Field> cut;
+    for (std::size_t k = 0; k < texts.size(); ++k) {
+        if (!SetBytes(static_cast<Field>(k), texts[k])) {
+            cut.push_back(static_cast<Field>(k));
+        }
+    }
+    SetBytes(Field::Reserved6, {});
+    SetBytes(Field::Reserved7, {});
+    return cut;
 }
 
 void StationRecord::SetPosition(geo::GeoPosition position)

@@ -13,6 +13,7 @@
 
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <cstddef>
@@ -40,13 +41,8 @@ enum class Field : std::uint8_t {
 // Bytes of `text` without the blanks at both ends.
 inline std::string_view Trimmed(std::string_view text)
 {
-    while (text.starts_with(' ')) {
-        text.remove_prefix(1);
-    }
-    while (text.ends_with(' ')) {
-        text.remove_suffix(1);
-    }
-    return text;
+    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+    return text.substr(0, text.find_last_not_of(' ') + 1);  // npos + 1 is 0
 }
 
 class StationRecord {
@@ -72,6 +68,10 @@ public:
     // left nothing is stored, and nothing in the fields behind it either. False when something was
     // cut or left out.
     bool SetBytes(Field field, std::string_view bytes);
+
+    // Stores the fields from the callsign to the date, and nothing in the reserved ones. The fields
+    // that were cut or left out, in their order.
+    std::vector<Field> SetTexts(const std::array<std::string_view, 6>& texts);
 
     double Longitude() const { return std::bit_cast<double>(longitude_); }
     double Latitude() const { return std::bit_cast<double>(latitude_); }
