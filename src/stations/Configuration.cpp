@@ -1,5 +1,7 @@
 #include "stations/Configuration.h"
 
+#include <tuple>
+
 #include "base/FileBytes.h"
 
 namespace stations {
@@ -12,23 +14,46 @@ constexpr std::int32_t kMagic = 150758;
 constexpr std::size_t kConfigurationSize = 2172;
 constexpr std::int16_t kFarthestZoom = 33;
 
-// The bytes of a record; it has no padding.
-base::ByteView BytesOf(const StationRecord& record)
+// The fields in the order of the file, of a configuration to write or to fill.
+auto FieldsOf(auto& c, auto& magic)
 {
-    return {reinterpret_cast<const unsigned char*>(&record), sizeof record};
+    return std::tie(c.format, c.station1Index, c.station2Index, c.degreeFormat, c.datum, c.reserved,
+                    c.zoomLevel, c.listingMode, c.autoRedraw, c.compassDirection, c.labelChoice,
+                    c.showReferencePoints, c.optimisedDisplay, c.optimisedOutput, c.showStation1,
+                    c.showStation2, c.workingFile, c.lastImage, c.lastMapFolder, magic, c.station1,
+                    c.station2);
 }
 
-void GetRecord(base::ByteReader& reader, StationRecord& record)
+// All fields but these two kinds stand in the file as they do in memory.
+void Put(base::ByteWriter& writer, bool value)
 {
-    reader.GetBytes({reinterpret_cast<unsigned char*>(&record), sizeof record});
+    writer.PutBoolean(value);
+}
+void Put(base::ByteWriter& writer, const std::string& name)
+{
+    writer.PutText(name, kFileNameLength);
+}
+template <typename T>
+void Put(base::ByteWriter& writer, const T& field)
+{
+    writer.PutBytes({reinterpret_cast<const unsigned char*>(&field), sizeof field});
 }
 
-void GetFileName(base::ByteReader& reader, std::string& name)
+void Get(base::ByteReader& reader, bool& value)
+{
+    reader.GetBoolean(value);
+}
+void Get(base::ByteReader& reader, std::string& name)
 {
     reader.GetText(name, kFileNameLength);
     // Another system may have filled the rest up with zeros.
     constexpr std::string_view kFilling(" \0", 2);
     name.erase(name.find_last_not_of(kFilling) + 1);  // npos + 1 is 0
+}
+template <typename T>
+void Get(base::ByteReader& reader, T& field)
+{
+    reader.GetBytes({reinterpret_cast<unsigned char*>(&field), sizeof field});
 }
 
 }  // namespace
@@ -42,28 +67,8 @@ base::ByteVector PackConfiguration(const Configuration& configuration)
 {
     base::ByteWriter writer;
     writer.Reserve(kConfigurationSize);
-    writer.Put(configuration.format);
-    writer.Put(configuration.station1Index);
-    writer.Put(configuration.station2Index);
-    writer.Put(configuration.degreeFormat);
-    writer.Put(configuration.datum);
-    writer.PutBytes(configuration.reserved);
-    writer.Put(configuration.zoomLevel);
-    writer.Put(configuration.listingMode);
-    writer.PutBoolean(configuration.autoRedraw);
-    writer.PutBoolean(configuration.compassDirection);
-    writer.Put(configuration.labelChoice);
-    writer.PutBoolean(configuration.showReferencePoints);
-    writer.PutBoolean(configuration.optimisedDisplay);
-    writer.PutBoolean(configuration.optimisedOutput);
-    writer.PutBoolean(configuration.showStation1);
-    writer.PutBoolean(configuration.showStation2);
-    writer.PutText(configuration.workingFile, kFileNameLength);
-    writer.PutText(configuration.lastImage, kFileNameLength);
-    writer.PutText(configuration.lastMapFolder, kFileNameLength);
-    writer.Put(kMagic);
-    writer.PutBytes(BytesOf(configuration.station1));
-    writer.PutBytes(BytesOf(configuration.station2));
+    std::apply([&](const auto&... field) { (Put(writer, field), ...); },
+               FieldsOf(configuration, kMagic));
     return writer.Take();
 }
 
@@ -76,28 +81,7 @@ ConfigurationContents UnpackConfiguration(base::ByteView bytes)
     Configuration configuration;
     std::int32_t magic = 0;
     base::ByteReader reader(bytes);
-    reader.Get(configuration.format);
-    reader.Get(configuration.station1Index);
-    reader.Get(configuration.station2Index);
-    reader.Get(configuration.degreeFormat);
-    reader.Get(configuration.datum);
-    reader.GetBytes(configuration.reserved);
-    reader.Get(configuration.zoomLevel);
-    reader.Get(configuration.listingMode);
-    reader.GetBoolean(configuration.autoRedraw);
-    reader.GetBoolean(configuration.compassDirection);
-    reader.Get(configuration.labelChoice);
-    reader.GetBoolean(configuration.showReferencePoints);
-    reader.GetBoolean(configuration.optimisedDisplay);
-    reader.GetBoolean(configuration.optimisedOutput);
-    reader.GetBoolean(configuration.showStation1);
-    reader.GetBoolean(configuration.showStation2);
-    GetFileName(reader, configuration.workingFile);
-    GetFileName(reader, configuration.lastImage);
-    GetFileName(reader, configuration.lastMapFolder);
-    reader.Get(magic);
-    GetRecord(reader, configuration.station1);
-    GetRecord(reader, configuration.station2);
+    std::apply([&](auto&... field) { (Get(reader, field), ...); }, FieldsOf(configuration, magic));
 
     const bool whole = magic == kMagic && bytes.size() == kConfigurationSize;
     contents.oldBytes = whole ? OldBytes::Known : OldBytes::Unknown;
@@ -116,19 +100,13 @@ ConfigurationContents UnpackConfiguration(base::ByteView bytes)
 ConfigurationContents ReadConfiguration(const std::string& name)
 {
     const base::FileContents file = base::ReadFile(name);
-    switch (file.status) {
-    case base::FileStatus::Missing: return {};
-    case base::FileStatus::NoFolder:
-        return {.status = ConfigurationStatus::NoFolder,
-                .configuration = {},
-                .oldBytes = OldBytes::Unknown};
-    case base::FileStatus::Unreadable:
-        return {.status = ConfigurationStatus::Unreadable,
-                .configuration = {},
-                .oldBytes = OldBytes::Unknown};
-    case base::FileStatus::Readable: break;
+    if (file.status == base::FileStatus::Readable || file.status == base::FileStatus::Missing) {
+        return UnpackConfiguration(file.bytes);
     }
-    return UnpackConfiguration(file.bytes);
+    const bool noFolder = file.status == base::FileStatus::NoFolder;
+    return {.status = noFolder ? ConfigurationStatus::NoFolder : ConfigurationStatus::Unreadable,
+            .configuration = {},
+            .oldBytes = OldBytes::Unknown};
 }
 
 base::Written WriteConfiguration(const std::string& name, const Configuration& configuration,

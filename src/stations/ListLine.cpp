@@ -19,10 +19,8 @@ struct Layout {
 
 using enum Field;
 
-constexpr Layout kPlain = {"", {Callsign, Name, Place}, 3};
-
 constexpr std::array<Layout, 10> kLayouts = {{
-    kPlain,
+    {"", {Callsign, Name, Place}, 3},
     {"", {Name, Callsign, Place}, 3},
     {"", {Place, Callsign, Name}, 3},
     {"", {Frequency, Callsign, Name}, 3},
@@ -37,7 +35,7 @@ constexpr std::array<Layout, 10> kLayouts = {{
 const Layout& LayoutOf(ListKey key)
 {
     const auto index = static_cast<std::size_t>(key);  // a negative key becomes a large index
-    return index < kLayouts.size() ? kLayouts[index] : kPlain;
+    return index < kLayouts.size() ? kLayouts[index] : kLayouts.front();
 }
 
 bool IsControl(char c)
@@ -48,13 +46,10 @@ bool IsControl(char c)
 // A line break becomes one blank, as does every other control character.
 void MakeOneLine(std::string& line)
 {
-    if (std::none_of(line.begin(), line.end(), IsControl)) {
-        return;
-    }
     for (std::size_t at = 0; (at = line.find("\r\n", at)) != std::string::npos;) {
         line.erase(at, 1);
     }
-    std::replace_if(line.begin(), line.end(), IsControl, ' ');
+    std::ranges::replace_if(line, IsControl, ' ');
 }
 
 double LeadingNumber(const StationRecord& record, ListKey key, double keyValue)

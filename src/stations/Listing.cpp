@@ -1,7 +1,6 @@
 #include "stations/Listing.h"
 
 #include <algorithm>
-#include <array>
 #include <string_view>
 
 #include "geo/Locator.h"
@@ -11,47 +10,23 @@ namespace stations {
 
 namespace {
 
-constexpr std::array kListedTexts = {
-    Field::Callsign, Field::Name, Field::Place, Field::Frequency, Field::Remark, Field::Date,
-};
-
-void AppendUtm(std::string& listing, geo::GeoPosition position, const base::NumberFormat& format)
-{
-    const geo::UtmPosition utm = geo::GeoUTM(position);
-    listing += format(utm.zone, "0");
-    listing += '\t';
-    listing += format(utm.easting, "0");
-    listing += '\t';
-    listing += format(utm.northing, "0");
-}
-
-void AppendPosition(std::string& listing, geo::GeoPosition position, ListingMode mode,
-                    geo::DegreeMinuteMode angleMode, const base::NumberFormat& format)
+std::string PositionColumns(geo::GeoPosition position, ListingMode mode,
+                            geo::DegreeMinuteMode angleMode, const base::NumberFormat& format)
 {
     constexpr std::string_view kDegrees = "#0.00000000";
     switch (mode) {
-    case ListingMode::Utm: AppendUtm(listing, position, format); return;
-    case ListingMode::Locator:
-        listing += geo::PositionToLocator(position.latitude, position.longitude);
-        return;
+    case ListingMode::Utm: {
+        const geo::UtmPosition utm = geo::GeoUTM(position);
+        return format(utm.zone, "0") + '\t' + format(utm.easting, "0") + '\t'
+               + format(utm.northing, "0");
+    }
+    case ListingMode::Locator: return geo::PositionToLocator(position.latitude, position.longitude);
     case ListingMode::Degrees:
-        listing += format(position.latitude, kDegrees);
-        listing += '\t';
-        listing += format(position.longitude, kDegrees);
-        return;
+        return format(position.latitude, kDegrees) + '\t' + format(position.longitude, kDegrees);
     case ListingMode::DegreeMinutes: break;
     }
-    listing += geo::ListingAngle(position.latitude, angleMode);
-    listing += '\t';
-    listing += geo::ListingAngle(position.longitude, angleMode);
-}
-
-void AppendText(std::string& listing, const StationRecord& record, Field field)
-{
-    std::string text = record.Text(field);
-    std::replace_if(
-        text.begin(), text.end(), [](char c) { return c == '\t' || c == '\r' || c == '\n'; }, ' ');
-    listing += text;
+    return geo::ListingAngle(position.latitude, angleMode) + '\t'
+           + geo::ListingAngle(position.longitude, angleMode);
 }
 
 }  // namespace
@@ -63,10 +38,13 @@ std::string ListingText(std::span<const StationRecord> records, ListingMode mode
     std::string listing;
     listing.reserve(records.size() * kUsualLine);
     for (const StationRecord& record : records) {
-        AppendPosition(listing, record.Position(), mode, angleMode, format);
-        for (const Field field : kListedTexts) {
+        listing += PositionColumns(record.Position(), mode, angleMode, format);
+        for (const Field field : kTextFields) {
+            std::string text = record.Text(field);
+            std::ranges::replace_if(
+                text, [](char c) { return c == '\t' || c == '\r' || c == '\n'; }, ' ');
             listing += '\t';
-            AppendText(listing, record, field);
+            listing += text;
         }
         listing += "\r\n";
     }

@@ -42,12 +42,13 @@ bool StationRecord::SetBytes(Field field, std::string_view bytes)
     return stored.size() == text.size();
 }
 
-std::vector<Field> StationRecord::SetTexts(const std::array<std::string_view, 6>& texts)
+std::vector<Field>
+StationRecord::SetTexts(const std::array<std::string_view, kTextFields.size()>& texts)
 {
     std::vector<Field> cut;
-    for (std::size_t k = 0; k < texts.size(); ++k) {
-        if (!SetBytes(static_cast<Field>(k), texts[k])) {
-            cut.push_back(static_cast<Field>(k));
+    for (const Field field : kTextFields) {
+        if (!SetBytes(field, texts[static_cast<std::size_t>(field)])) {
+            cut.push_back(field);
         }
     }
     SetBytes(Field::Reserved6, {});

@@ -38,6 +38,10 @@ enum class Field : std::uint8_t {
     Reserved7,
 };
 
+// The fields that hold something, in their order.
+inline constexpr std::array kTextFields = {Field::Callsign,  Field::Name,   Field::Place,
+                                           Field::Frequency, Field::Remark, Field::Date};
+
 // Bytes of `text` without the blanks at both ends.
 inline std::string_view Trimmed(std::string_view text)
 {
@@ -71,7 +75,7 @@ public:
 
     // Stores the fields from the callsign to the date, and nothing in the reserved ones. The fields
     // that were cut or left out, in their order.
-    std::vector<Field> SetTexts(const std::array<std::string_view, 6>& texts);
+    std::vector<Field> SetTexts(const std::array<std::string_view, kTextFields.size()>& texts);
 
     double Longitude() const { return std::bit_cast<double>(longitude_); }
     double Latitude() const { return std::bit_cast<double>(latitude_); }

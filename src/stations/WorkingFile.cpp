@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <span>
 
-#include "base/Bytes.h"
 #include "base/FileBytes.h"
 #include "base/FileNames.h"
 
@@ -16,43 +15,26 @@ namespace {
 using base::OldBytes;
 
 constexpr std::int32_t kMagic = 171294;
-constexpr std::size_t kHeaderSize = 20;
+// 0, number of records, -1, -1, mark.
+using Header = std::array<std::int32_t, 5>;
+constexpr std::uint64_t kHeaderSize = sizeof(Header);
 
-base::ByteView BytesOf(std::span<const StationRecord> records)
+// What stands in the file as it does in memory.
+base::ByteView BytesOf(const auto& values)
 {
-    return {reinterpret_cast<const unsigned char*>(records.data()), records.size_bytes()};
+    const auto bytes = std::as_bytes(std::span(values));
+    return {reinterpret_cast<const unsigned char*>(bytes.data()), bytes.size()};
 }
 
-std::span<unsigned char> BytesOf(std::span<StationRecord> records)
+bool Read(base::InputFile& file, auto&& values)
 {
-    return {reinterpret_cast<unsigned char*>(records.data()), records.size_bytes()};
+    const auto bytes = std::as_writable_bytes(std::span(values));
+    return file.Read({reinterpret_cast<unsigned char*>(bytes.data()), bytes.size()});
 }
 
-base::ByteVector PackHeader(std::size_t count)
+DatabaseContents Without(DatabaseStatus status, OldBytes oldBytes = OldBytes::Unknown)
 {
-    base::ByteWriter writer;
-    writer.Put<std::int32_t>(0);
-    writer.Put(static_cast<std::int32_t>(count));
-    writer.Put<std::int32_t>(-1);
-    writer.Put<std::int32_t>(-1);
-    writer.Put(kMagic);
-    return writer.Take();
-}
-
-struct Header {
-    std::int32_t count = 0;
-    std::int32_t magic = 0;
-};
-
-Header UnpackHeader(base::ByteView bytes)
-{
-    Header header;
-    base::ByteReader reader(bytes);
-    reader.Skip(sizeof(std::int32_t));
-    reader.Get(header.count);
-    reader.Skip(2 * sizeof(std::int32_t));
-    reader.Get(header.magic);
-    return header;
+    return {.status = status, .database = {}, .oldBytes = oldBytes};
 }
 
 // Reads the `count` records that follow the header, as far as the file holds them.
@@ -61,11 +43,8 @@ DatabaseContents ReadRecords(base::InputFile& file, std::size_t count)
     DatabaseContents contents;
     const std::uint64_t held = (file.Size() - kHeaderSize) / sizeof(StationRecord);
     const auto whole = static_cast<std::size_t>(std::min<std::uint64_t>(count, held));
-    if (!file.Read(BytesOf(contents.database.Extend(whole)))) {
-        contents.database.Truncate(0);
-        contents.status = DatabaseStatus::Unreadable;
-        contents.oldBytes = OldBytes::Unknown;
-        return contents;
+    if (!Read(file, contents.database.Extend(whole))) {
+        return Without(DatabaseStatus::Unreadable);
     }
     const std::uint64_t end = kHeaderSize + (std::uint64_t{count} + 1) * sizeof(StationRecord);
     const bool cutShort = whole < count;
@@ -90,11 +69,10 @@ bool Holds(const std::string& name, const StationDatabase& database)
 
 base::Written Replace(const std::string& name, const StationDatabase& database, OldBytes& oldBytes)
 {
-    const base::ByteVector header = PackHeader(database.Count());
+    const Header header = {0, static_cast<std::int32_t>(database.Count()), -1, -1, kMagic};
     const std::array spare = {EmptyRecord()};
-    return base::ReplaceFile(
-        name, {header, BytesOf(database.Records()), BytesOf(std::span<const StationRecord>(spare))},
-        oldBytes);
+    return base::ReplaceFile(name, {BytesOf(header), BytesOf(database.Records()), BytesOf(spare)},
+                             oldBytes);
 }
 
 }  // namespace
@@ -102,36 +80,30 @@ base::Written Replace(const std::string& name, const StationDatabase& database, 
 DatabaseContents ReadDatabase(const std::string& name)
 {
     base::InputFile file(name);
-    const bool readable = file.Status() == base::FileStatus::Readable;
-    DatabaseContents contents;
-    if (file.Status() == base::FileStatus::Missing || (readable && file.Size() == 0)) {
-        contents.status = readable ? DatabaseStatus::Empty : DatabaseStatus::Missing;
-        return contents;
+    switch (file.Status()) {
+    case base::FileStatus::Missing: return Without(DatabaseStatus::Missing, OldBytes::Known);
+    case base::FileStatus::NoFolder: return Without(DatabaseStatus::NoFolder);
+    case base::FileStatus::Unreadable: return Without(DatabaseStatus::Unreadable);
+    case base::FileStatus::Readable: break;
     }
-    contents.oldBytes = OldBytes::Unknown;
-    if (file.Status() == base::FileStatus::NoFolder) {
-        contents.status = DatabaseStatus::NoFolder;
-        return contents;
+    if (file.Size() == 0) {
+        return Without(DatabaseStatus::Empty, OldBytes::Known);
     }
-    if (readable && file.Size() < kHeaderSize) {
-        contents.status = DatabaseStatus::Foreign;
-        return contents;
+    if (file.Size() < kHeaderSize) {
+        return Without(DatabaseStatus::Foreign);
     }
-    std::array<unsigned char, kHeaderSize> bytes = {};
-    if (!file.Read(bytes)) {
-        contents.status = DatabaseStatus::Unreadable;
-        return contents;
+    Header header = {};
+    if (!Read(file, header)) {
+        return Without(DatabaseStatus::Unreadable);
     }
-    const Header header = UnpackHeader(bytes);
-    if (header.magic != kMagic) {
-        contents.status = DatabaseStatus::Foreign;
-        return contents;
+    if (header[4] != kMagic) {
+        return Without(DatabaseStatus::Foreign);
     }
-    if (header.count < 0 || static_cast<std::size_t>(header.count) > kMaxRecords) {
-        contents.status = DatabaseStatus::BadCount;
-        return contents;
+    const std::int32_t count = header[1];
+    if (count < 0 || static_cast<std::size_t>(count) > kMaxRecords) {
+        return Without(DatabaseStatus::BadCount);
     }
-    return ReadRecords(file, static_cast<std::size_t>(header.count));
+    return ReadRecords(file, static_cast<std::size_t>(count));
 }
 
 std::error_code WriteDatabase(const std::string& name, const StationDatabase& database)
