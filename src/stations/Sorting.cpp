@@ -22,55 +22,46 @@ namespace stations {
 
 namespace {
 
-// What is compared, in this order, until something differs. The chains differ from key to key on
-// purpose: equal entries are found by the latitude's, which goes through all texts.
-struct Chain {
-    std::array<std::int8_t, 8> parts;
-    std::size_t length;
+// What is compared: a field, in the order of Field, or one of the numbers behind them.
+enum class Part : std::uint8_t {
+    None,
+    Callsign,
+    Name,
+    Place,
+    Frequency,
+    Remark,
+    Date,
+    Latitude,
+    Longitude,
+    KeyValue,
 };
 
-constexpr std::int8_t kLatitude = -1;
-constexpr std::int8_t kLongitude = -2;
+using enum Part;
 
-constexpr std::int8_t Part(Field field)
-{
-    return static_cast<std::int8_t>(field);
-}
-
-constexpr std::int8_t kCallsign = Part(Field::Callsign);
-constexpr std::int8_t kName = Part(Field::Name);
-constexpr std::int8_t kPlace = Part(Field::Place);
-constexpr std::int8_t kFrequency = Part(Field::Frequency);
-constexpr std::int8_t kRemark = Part(Field::Remark);
-constexpr std::int8_t kDate = Part(Field::Date);
-
+// What each key compares, in this order, until something differs. The chains differ from key to key
+// on purpose: equal entries are found by the latitude's, which goes through all texts.
+using Chain = std::array<Part, 8>;
 constexpr std::array<Chain, 10> kChains = {{
-    {{kCallsign, kName, kPlace, kFrequency}, 4},
-    {{kName, kCallsign, kPlace, kFrequency}, 4},
-    {{kPlace, kCallsign, kName, kFrequency}, 4},
-    {{kFrequency, kCallsign, kName, kPlace}, 4},
-    {{kLatitude, kLongitude, kCallsign, kName, kPlace, kFrequency, kRemark, kDate}, 8},
-    {{kLongitude, kLatitude, kCallsign, kName, kPlace}, 5},
-    {{kRemark, kCallsign, kName, kPlace}, 4},
-    {{}, 0},  // the key values alone
-    {{}, 0},
-    {{kDate, kCallsign, kName, kPlace}, 4},
+    {Callsign, Name, Place, Frequency},
+    {Name, Callsign, Place, Frequency},
+    {Place, Callsign, Name, Frequency},
+    {Frequency, Callsign, Name, Place},
+    {Latitude, Longitude, Callsign, Name, Place, Frequency, Remark, Date},
+    {Longitude, Latitude, Callsign, Name, Place},
+    {Remark, Callsign, Name, Place},
+    {KeyValue},
+    {KeyValue},
+    {Date, Callsign, Name, Place},
 }};
+
+bool IsNumber(Part part)
+{
+    return part >= Latitude;
+}
 
 int CompareNumbers(double a, double b)
 {
     return a < b ? -1 : static_cast<int>(a > b);
-}
-
-int ComparePart(const StationRecord& a, const StationRecord& b, std::int8_t part)
-{
-    if (part == kLatitude) {
-        return CompareNumbers(a.Latitude(), b.Latitude());
-    }
-    if (part == kLongitude) {
-        return CompareNumbers(a.Longitude(), b.Longitude());
-    }
-    return a.Bytes(static_cast<Field>(part)).compare(b.Bytes(static_cast<Field>(part)));
 }
 
 // A number that orders like `value`, both zeros alike. Not for NaN.
@@ -114,9 +105,8 @@ public:
 
 private:
     void MakeEntries();
-    std::uint64_t LeadingNumber(std::size_t index) const;
-    double LeadingValue(std::size_t index) const;
-    bool LeadsWithNumber() const { return chain_.length == 0 || chain_.parts.front() < 0; }
+    double Number(Part part, std::uint32_t index) const;
+    std::string_view Text(Part part, std::uint32_t index) const;
     int Compare(const Entry& a, const Entry& b) const;
     int CompareRecords(std::uint32_t a, std::uint32_t b) const;
     std::pair<std::ptrdiff_t, std::ptrdiff_t> Partition(std::ptrdiff_t lo, std::ptrdiff_t hi);
@@ -128,32 +118,30 @@ private:
     std::vector<Entry> entries_;
 };
 
-double Sorter::LeadingValue(std::size_t index) const
+double Sorter::Number(Part part, std::uint32_t index) const
 {
-    if (chain_.length == 0) {
-        return keyValues_[index];
+    switch (part) {
+    case Latitude: return records_[index].Latitude();
+    case Longitude: return records_[index].Longitude();
+    default: return keyValues_[index];
     }
-    return chain_.parts.front() == kLatitude ? records_[index].Latitude()
-                                             : records_[index].Longitude();
 }
 
-std::uint64_t Sorter::LeadingNumber(std::size_t index) const
+std::string_view Sorter::Text(Part part, std::uint32_t index) const
 {
-    if (LeadsWithNumber()) {
-        return OrderedNumber(LeadingValue(index));
-    }
-    return OrderedNumber(records_[index].Bytes(static_cast<Field>(chain_.parts.front())));
+    return records_[index].Bytes(static_cast<Field>(static_cast<int>(part) - 1));
 }
 
 void Sorter::MakeEntries()
 {
-    entries_.reserve(records_.size());
+    const Part leading = chain_.front();
     bool ordered = true;
-    for (std::size_t i = 0; i < records_.size(); ++i) {
-        const std::uint64_t number = LeadingNumber(i);
-        ordered = ordered && !(LeadsWithNumber() && std::isnan(LeadingValue(i)));
-        entries_.push_back(
-            {.number = descending_ ? ~number : number, .index = static_cast<std::uint32_t>(i)});
+    entries_.resize(records_.size());
+    for (std::uint32_t i = 0; i < entries_.size(); ++i) {
+        const std::uint64_t number =
+            IsNumber(leading) ? OrderedNumber(Number(leading, i)) : OrderedNumber(Text(leading, i));
+        ordered = ordered && !(IsNumber(leading) && std::isnan(Number(leading, i)));
+        entries_[i] = {.number = descending_ ? ~number : number, .index = i};
     }
     if (!ordered) {
         // NaN is neither below nor above anything, so no number can stand for it. With one number
@@ -166,9 +154,10 @@ void Sorter::MakeEntries()
 
 int Sorter::CompareRecords(std::uint32_t a, std::uint32_t b) const
 {
-    int result = chain_.length == 0 ? CompareNumbers(keyValues_[a], keyValues_[b]) : 0;
-    for (std::size_t i = 0; i < chain_.length && result == 0; ++i) {
-        result = ComparePart(records_[a], records_[b], chain_.parts[i]);
+    int result = 0;
+    for (std::size_t i = 0; i < chain_.size() && chain_[i] != None && result == 0; ++i) {
+        result = IsNumber(chain_[i]) ? CompareNumbers(Number(chain_[i], a), Number(chain_[i], b))
+                                     : Text(chain_[i], a).compare(Text(chain_[i], b));
     }
     return descending_ ? -result : result;
 }
@@ -215,32 +204,20 @@ std::pair<std::ptrdiff_t, std::ptrdiff_t> Sorter::Partition(std::ptrdiff_t lo, s
 
 std::vector<std::uint32_t> Sorter::Run()
 {
-    struct Range {
-        std::ptrdiff_t lo;
-        std::ptrdiff_t hi;
-    };
-    std::vector<Range> pending = {{0, static_cast<std::ptrdiff_t>(entries_.size()) - 1}};
+    std::vector<std::pair<std::ptrdiff_t, std::ptrdiff_t>> pending = {
+        {0, static_cast<std::ptrdiff_t>(entries_.size()) - 1}};
     while (!pending.empty()) {
-        const Range range = pending.back();
+        const auto [lo, hi] = pending.back();
         pending.pop_back();
-        if (range.lo >= range.hi) {
-            continue;
+        if (lo < hi) {
+            const auto [left, right] = Partition(lo, hi);
+            pending.emplace_back(right, hi);
+            pending.emplace_back(lo, left);
         }
-        const auto [left, right] = Partition(range.lo, range.hi);
-        pending.push_back({right, range.hi});
-        pending.push_back({range.lo, left});
     }
-    std::vector<std::uint32_t> order;
-    order.reserve(entries_.size());
-    for (const Entry& entry : entries_) {
-        order.push_back(entry.index);
-    }
+    std::vector<std::uint32_t> order(entries_.size());
+    std::ranges::transform(entries_, order.begin(), &Entry::index);
     return order;
-}
-
-bool IsKey(ListKey key)
-{
-    return key >= ListKey::Callsign && key <= ListKey::Date;
 }
 
 }  // namespace
@@ -267,16 +244,14 @@ std::vector<double> KeyValues(const StationDatabase& database, ListKey key,
 
 void Sort(StationDatabase& database, ListKey key, Order order, std::vector<double>& keyValues)
 {
-    if (!IsKey(key)) {
+    if (static_cast<std::size_t>(key) >= kChains.size()) {  // a negative key is a large one here
         return;
     }
     std::vector<std::uint32_t> sequence = Sorter(database.Records(), key, order, keyValues).Run();
     if (HasKeyValues(key)) {
-        std::vector<double> sorted;
-        sorted.reserve(sequence.size());
-        for (const std::uint32_t index : sequence) {
-            sorted.push_back(keyValues[index]);
-        }
+        std::vector<double> sorted(sequence.size());
+        std::ranges::transform(sequence, sorted.begin(),
+                               [&](std::uint32_t index) { return keyValues[index]; });
         keyValues = std::move(sorted);
     }
     database.Reorder(std::move(sequence));
