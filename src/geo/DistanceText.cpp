@@ -38,22 +38,15 @@ std::string CompassText(double rawBearing, const base::NumberFormat& format)
 
 }  // namespace
 
-std::string DirectionText(double startLatitude, double targetLatitude, double longitudeDifference,
-                          DirectionMode mode, const base::NumberFormat& format)
+std::string DirectionText(GeoPosition start, GeoPosition target, DirectionMode mode,
+                          const base::NumberFormat& format)
 {
-    const double rawBearing = RawBearing(startLatitude, targetLatitude, longitudeDifference);
+    const double rawBearing = RawBearing(start, target);
     if (!std::isfinite(rawBearing)) {
         return {};
     }
     return mode == DirectionMode::CompassPoint ? CompassText(rawBearing, format)
                                                : AzimuthText(rawBearing, format);
-}
-
-std::string DirectionText(GeoPosition start, GeoPosition target, DirectionMode mode,
-                          const base::NumberFormat& format)
-{
-    return DirectionText(start.latitude, target.latitude, target.longitude - start.longitude, mode,
-                         format);
 }
 
 std::string DistanceLine(double kilometres, const base::NumberFormat& format)

@@ -14,10 +14,7 @@ enum class DirectionMode {
     CompassPoint,  // compass point and the angle off it: "OST   + 0.00 Grad"
 };
 
-// Direction of the target as seen from the start point. `longitudeDifference` is target minus
-// start. Empty when there is no finite result.
-std::string DirectionText(double startLatitude, double targetLatitude, double longitudeDifference,
-                          DirectionMode mode, const base::NumberFormat& format);
+// Direction of the target as seen from the start point. Empty when there is no finite result.
 std::string DirectionText(GeoPosition start, GeoPosition target, DirectionMode mode,
                           const base::NumberFormat& format);
 

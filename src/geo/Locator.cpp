@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cmath>
-#include <cstring>
 
 #include "base/Rounding.h"
 
@@ -43,17 +42,9 @@ std::int16_t SubsquareValue(char c)
     return LetterValue(c, 'A');
 }
 
-// True for every locator that is one: there bytes are characters.
-bool BeginsWithSixAscii(std::string_view text)
+bool IsAscii(char c)
 {
-    if (text.size() < kLength) {
-        return false;
-    }
-    std::uint32_t first = 0;
-    std::uint32_t last = 0;
-    std::memcpy(&first, text.data(), sizeof first);
-    std::memcpy(&last, text.data() + kLength - sizeof last, sizeof last);
-    return ((first | last) & 0x80808080U) == 0;
+    return static_cast<unsigned char>(c) < 0x80;
 }
 
 bool IsContinuation(char c)
@@ -61,26 +52,8 @@ bool IsContinuation(char c)
     return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
 }
 
-// The first six characters of UTF-8 text. They are counted as characters, so that a stray umlaut
+// The character at `pos` of UTF-8 text. They are counted as characters, so that a stray umlaut
 // takes one place and not two; its lead byte stands for it, which no value function accepts.
-std::array<char, kLength> FirstCharacters(std::string_view text)
-{
-    std::array<char, kLength> characters{};
-    static_assert(kMissing == '\0');
-    std::size_t count = 0;
-    for (const char c : text) {
-        if (IsContinuation(c)) {
-            continue;
-        }
-        if (count == kLength) {
-            break;
-        }
-        characters[count++] = c;
-    }
-    return characters;
-}
-
-// Counts like FirstCharacters, however long the text is.
 char CharacterAt(std::string_view locator, std::size_t pos)
 {
     for (const char c : locator) {
@@ -133,11 +106,17 @@ std::int16_t LocSuffVal(std::string_view locator, std::size_t pos)
 
 GeoPosition LocatorToPosition(std::string_view locator)
 {
-    if (BeginsWithSixAscii(locator)) {
+    // In ASCII, which every locator is, bytes are characters.
+    const std::string_view l = locator;
+    if (l.size() >= kLength
+        && IsAscii(static_cast<char>(l[0] | l[1] | l[2] | l[3] | l[4] | l[5]))) {
         return SubsquareCentre(locator);
     }
-    const std::array<char, kLength> characters = FirstCharacters(locator);
-    return SubsquareCentre({characters.data(), characters.size()});
+    std::string characters;
+    for (std::size_t pos = 0; pos < kLength; ++pos) {
+        characters += CharacterAt(locator, pos);
+    }
+    return SubsquareCentre(characters);
 }
 
 std::string PositionToLocator(double latitude, double longitude)

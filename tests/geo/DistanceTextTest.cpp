@@ -73,7 +73,7 @@ TEST(DirectionText, NamesTheCompassPointAndTheAngleOffIt)
 TEST(DirectionText, BeginsASectorWithItsEarlierEnd)
 {
     ASSERT_EQ(RawBearing(0.0, -45.0, 90.0), 45.0);
-    EXPECT_EQ(DirectionText(0.0, -45.0, 90.0, kCompassPoint, kFormat), "SUED  - 45.00 Grad");
+    EXPECT_EQ(DirectionText({}, {-45.0, 90.0}, kCompassPoint, kFormat), "SUED  - 45.00 Grad");
 }
 
 TEST(DirectionText, OfCoincidentStationsIsEast)
@@ -85,13 +85,13 @@ TEST(DirectionText, OfCoincidentStationsIsEast)
 
 TEST(DirectionText, UsesTheGivenSeparator)
 {
-    EXPECT_EQ(DirectionText(0.0, 0.0, 1.0, kDegrees, base::NumberFormat(",")), "90,00 Grad");
+    EXPECT_EQ(DirectionText({}, {0.0, 1.0}, kDegrees, base::NumberFormat(",")), "90,00 Grad");
 }
 
 TEST(DirectionText, IsEmptyWithoutADirection)
 {
-    EXPECT_EQ(DirectionText(kNaN, 0.0, 1.0, kDegrees, kFormat), "");
-    EXPECT_EQ(DirectionText(0.0, 0.0, kNaN, kCompassPoint, kFormat), "");
+    EXPECT_EQ(DirectionText({kNaN, 0.0}, {0.0, 1.0}, kDegrees, kFormat), "");
+    EXPECT_EQ(DirectionText({}, {0.0, kNaN}, kCompassPoint, kFormat), "");
 }
 
 TEST(DistanceLine, ChoosesTheUnitByTheDistance)
