@@ -67,10 +67,7 @@ private:
         switch (contents.status) {
         case ConfigurationStatus::Read:
             if (name != stations::kConfigurationName) {
-                Note({.kind = Notice::ConfigurationFound,
-                      .file = stations::kConfigurationName,
-                      .other = name,
-                      .keptAs = {}});
+                Note(Notice::ConfigurationFound, stations::kConfigurationName, name);
             }
             return;
         case ConfigurationStatus::New:
@@ -86,10 +83,7 @@ private:
         const Written written =
             stations::WriteConfiguration(name, state_.configuration, session_.configurationBytes);
         if (!NoteFailure(written, name, session_.configurationBytes) && !written.keptAs.empty()) {
-            Note({.kind = Notice::ForeignConfiguration,
-                  .file = name,
-                  .other = {},
-                  .keptAs = written.keptAs});
+            Note(Notice::ForeignConfiguration, name, {}, written.keptAs);
         }
     }
 
@@ -111,7 +105,7 @@ private:
         state_.configuration.workingFile = std::move(name);
         storedName_ = stored;
         if (found) {
-            Note({.kind = Notice::WorkingFileFound, .file = stored, .other = *found, .keptAs = {}});
+            Note(Notice::WorkingFileFound, stored, *found);
         }
     }
 
@@ -129,7 +123,7 @@ private:
         switch (contents.status) {
         case DatabaseStatus::Complete:
             if (contents.oldBytes == OldBytes::Unknown) {
-                Note({.kind = Notice::BytesBehindRecords, .file = name, .other = {}, .keptAs = {}});
+                Note(Notice::BytesBehindRecords, name);
             }
             return;
         case DatabaseStatus::Missing: NewWorkingFile(Notice::NewWorkingFile); return;
@@ -152,7 +146,7 @@ private:
             || (kind == Notice::NewWorkingFile && !configured_)) {
             return;
         }
-        Note({.kind = kind, .file = name, .other = storedName_, .keptAs = written.keptAs});
+        Note(kind, name, storedName_, written.keptAs);
     }
 
     void WriteBackup()
@@ -161,10 +155,7 @@ private:
         const Written written =
             stations::WriteBackup(state_.database, session_.workingFileBytes, session_.backupName);
         if (!NoteFailure(written, session_.backupName, ignored) && !written.keptAs.empty()) {
-            Note({.kind = Notice::BackupReplaced,
-                  .file = session_.backupName,
-                  .other = {},
-                  .keptAs = written.keptAs});
+            Note(Notice::BackupReplaced, session_.backupName, {}, written.keptAs);
         }
     }
 
@@ -188,7 +179,11 @@ private:
         report_.fault = std::move(fault);
     }
 
-    void Note(StartNotice notice) { report_.notices.push_back(std::move(notice)); }
+    void Note(Notice kind, const std::string& file, const std::string& other = {},
+              const std::string& keptAs = {})
+    {
+        report_.notices.push_back({.kind = kind, .file = file, .other = other, .keptAs = keptAs});
+    }
 
     AppState& state_;
     SessionState& session_;
