@@ -18,7 +18,7 @@ bool StationDatabase::Append(std::span<const StationRecord> records)
     if (records.size() > kMaxRecords - Count()) {
         return false;
     }
-    std::copy(records.begin(), records.end(), Extend(records.size()).begin());
+    records_.insert(records_.end(), records.begin(), records.end());
     return true;
 }
 
@@ -45,13 +45,6 @@ void StationDatabase::Delete(std::span<const std::size_t> indexes)
 void StationDatabase::Truncate(std::size_t count)
 {
     records_.resize(std::min(count, Count()));
-}
-
-std::span<StationRecord> StationDatabase::Extend(std::size_t count)
-{
-    const std::size_t old = Count();
-    records_.resize(old + count);
-    return std::span(records_).subspan(old);
 }
 
 void StationDatabase::Reorder(std::vector<std::uint32_t> order)

@@ -6,8 +6,8 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <span>
+#include <utility>
 #include <vector>
 
 #include "stations/StationRecord.h"
@@ -18,6 +18,11 @@ inline constexpr std::size_t kMaxRecords = 25000;
 
 class StationDatabase {
 public:
+    StationDatabase() = default;
+
+    // At most 25000 records.
+    explicit StationDatabase(std::vector<StationRecord> records) : records_(std::move(records)) {}
+
     std::size_t Count() const { return records_.size(); }
     bool Empty() const { return records_.empty(); }
     std::span<const StationRecord> Records() const { return records_; }
@@ -42,30 +47,11 @@ public:
     // Room for `count` records without moving those that are held.
     void Reserve(std::size_t count) { records_.reserve(count); }
 
-    // `count` new records behind those that are held, to be filled by the caller at once: until
-    // then they hold anything. There must be room for them below the limit.
-    std::span<StationRecord> Extend(std::size_t count);
-
     // Record `order[i]` becomes record i. `order` holds each index below Count() once.
     void Reorder(std::vector<std::uint32_t> order);
 
 private:
-    // Leaves new records unset: a database read from a file is written once, not twice.
-    // NOLINTBEGIN(readability-identifier-naming): names that the standard library asks for
-    struct UnsetAllocator : std::allocator<StationRecord> {
-        template <typename>
-        struct rebind {
-            using other = UnsetAllocator;
-        };
-        void construct(StationRecord* /*place*/) const {}
-        void construct(StationRecord* place, const StationRecord& record) const
-        {
-            std::construct_at(place, record);
-        }
-    };
-    // NOLINTEND(readability-identifier-naming)
-
-    std::vector<StationRecord, UnsetAllocator> records_;
+    std::vector<StationRecord> records_;
 };
 
 }  // namespace stations

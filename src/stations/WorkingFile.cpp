@@ -4,6 +4,8 @@
 #include <array>
 #include <cstdint>
 #include <span>
+#include <utility>
+#include <vector>
 
 #include "base/FileBytes.h"
 #include "base/FileNames.h"
@@ -26,7 +28,7 @@ base::ByteView BytesOf(const auto& values)
     return {reinterpret_cast<const unsigned char*>(bytes.data()), bytes.size()};
 }
 
-bool Read(base::InputFile& file, auto&& values)
+bool Read(base::InputFile& file, auto& values)
 {
     const auto bytes = std::as_writable_bytes(std::span(values));
     return file.Read({reinterpret_cast<unsigned char*>(bytes.data()), bytes.size()});
@@ -40,17 +42,18 @@ DatabaseContents Without(DatabaseStatus status, OldBytes oldBytes = OldBytes::Un
 // Reads the `count` records that follow the header, as far as the file holds them.
 DatabaseContents ReadRecords(base::InputFile& file, std::size_t count)
 {
-    DatabaseContents contents;
     const std::uint64_t held = (file.Size() - kHeaderSize) / sizeof(StationRecord);
     const auto whole = static_cast<std::size_t>(std::min<std::uint64_t>(count, held));
-    if (!Read(file, contents.database.Extend(whole))) {
+    std::vector<StationRecord> records(whole);
+    if (!Read(file, records)) {
         return Without(DatabaseStatus::Unreadable);
     }
     const std::uint64_t end = kHeaderSize + (std::uint64_t{count} + 1) * sizeof(StationRecord);
     const bool cutShort = whole < count;
-    contents.status = cutShort ? DatabaseStatus::CutShort : DatabaseStatus::Complete;
-    contents.oldBytes = cutShort || file.Size() > end ? OldBytes::Unknown : OldBytes::Known;
-    return contents;
+    const bool unknown = cutShort || file.Size() > end;
+    return {.status = cutShort ? DatabaseStatus::CutShort : DatabaseStatus::Complete,
+            .database = StationDatabase(std::move(records)),
+            .oldBytes = unknown ? OldBytes::Unknown : OldBytes::Known};
 }
 
 // False only for what is certainly no loss: no file, or an empty database and nothing behind it.
