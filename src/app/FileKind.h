@@ -15,6 +15,8 @@ enum class FileKind {
     Other,
 };
 
+// By its mark, whatever the name ends in; the first that fits, in the order above. A file whose
+// folder is missing is missing.
 FileKind KindOf(const std::string& name);
 
 }  // namespace app

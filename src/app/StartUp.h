@@ -62,7 +62,7 @@ struct StartReport {
 StartReport LoadAtStartUp(AppState& state);
 
 // The station that a panel shows at first: the stored one when the configuration holds it, else the
-// built-in one.
+// built-in one. `station` 0 is Station 1, any other value Station 2.
 struct StartStation {
     stations::StationTexts texts;
     geo::GeoPosition position;

@@ -24,7 +24,7 @@ using ByteView = std::span<const unsigned char>;
 template <typename T>
 concept Scalar = (std::is_arithmetic_v<T> && !std::is_same_v<T, bool>) || std::is_enum_v<T>;
 
-// Appends fields to a growing buffer.
+// Appends fields to a growing buffer: little-endian, two's complement, IEEE 754.
 class ByteWriter {
 public:
     template <Scalar T>

@@ -19,7 +19,8 @@ constexpr double Polynomial(double x, double c0, Rest... rest)
 }
 
 // c[0] sin x + c[1] sin 2x + c[2] sin 3x + ..., from the sine and cosine of x alone (Clenshaw's
-// recurrence): one call of the sine instead of one for each term.
+// recurrence, "A note on the summation of Chebyshev series", Mathematical Tables 9, 1955): one call
+// of the sine instead of one for each term.
 template <std::size_t count>
 double SineSeries(const std::array<double, count>& c, double sinX, double cosX)
 {

@@ -36,7 +36,7 @@ std::vector<std::size_t> FindEqualEntries(StationDatabase& database, Equality eq
 // What Station 1 becomes when it is set to the mean of marked stations.
 struct MeanStation {
     StationTexts texts;
-    geo::GeoPosition position;
+    geo::GeoPosition position;  // not finite when one of the marked is not
 };
 
 // Arithmetic mean of the degree values, not on the sphere: 179 and -179 give longitude 0. None

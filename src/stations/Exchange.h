@@ -30,7 +30,8 @@ struct KeptDatabase {
 };
 
 // How the configuration names a file: relative to the program directory, which is the current one,
-// when it lies in it or below it, so that a folder which is moved as a whole finds it again.
+// when it lies in it or below it, so that a folder which is moved as a whole finds it again. Else,
+// and when its folder cannot be asked, as it stands.
 std::string NameToKeep(const std::string& name);
 
 // Makes `name` the working file and its records the database.
@@ -41,7 +42,7 @@ ExchangeResult Open(const std::string& name, KeptDatabase kept);
 ExchangeResult AppendFile(const std::string& name, StationDatabase& database);
 
 // Writes a database file of the records with the given indexes, which ascend and are below Count().
-// No record at all makes a valid file, too.
+// No record at all makes a valid file, too. An error leaves the old file as it was.
 std::error_code SaveMarked(const std::string& name, const StationDatabase& database,
                            std::span<const std::size_t> marked);
 

@@ -54,8 +54,9 @@ constexpr bool HasKeyValues(ListKey key)
 }
 
 // Line of a record, UTF-8, never cut. `keyValue` is the record's distance in km or its direction in
-// degrees; the other keys do not use it. Empty texts keep their separators. Line breaks and other
-// control characters are blanks here.
+// degrees; the other keys do not use it. A number that is not finite leaves out its part of the
+// line. Empty texts keep their separators. Line breaks and other control characters are blanks
+// here.
 std::string ListLine(const StationRecord& record, ListKey key, double keyValue,
                      const base::NumberFormat& format);
 

@@ -1,7 +1,8 @@
 // Sorting the station database.
 //
 // The order of records that compare equal is part of the behaviour: it is the one that a certain
-// quicksort leaves, not the one they had. See Sorting.cpp.
+// quicksort (C. A. R. Hoare, "Algorithm 64", Communications of the ACM 4, 1961) leaves, not the one
+// they had. See Sorting.cpp.
 
 #pragma once
 
@@ -14,7 +15,8 @@
 namespace stations {
 
 // One value per record: distance from Station 1 in km, or compass bearing from Station 1 in degrees
-// (north 0, east 90; 0 <= value < 360). Empty for every other key.
+// (north 0, east 90; 0 <= value < 360), by geo/Distance.h; not a number for a position that is not
+// finite. Empty for every other key.
 std::vector<double> KeyValues(const StationDatabase& database, ListKey key,
                               geo::GeoPosition station1);
 

@@ -41,7 +41,7 @@ public:
     // keep their order.
     void Delete(std::span<const std::size_t> indexes);
 
-    // Drops the records from `count` on.
+    // Drops the records from `count` on; nothing when there are no more.
     void Truncate(std::size_t count);
 
     // Room for `count` records without moving those that are held.

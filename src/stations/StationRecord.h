@@ -77,6 +77,7 @@ public:
     // that were cut or left out, in their order.
     std::vector<Field> SetTexts(const std::array<std::string_view, kTextFields.size()>& texts);
 
+    // Decimal degrees as they stand in the file: any value, one that is not finite included.
     double Longitude() const { return std::bit_cast<double>(longitude_); }
     double Latitude() const { return std::bit_cast<double>(latitude_); }
     geo::GeoPosition Position() const { return {.latitude = Latitude(), .longitude = Longitude()}; }
