@@ -10,23 +10,30 @@ namespace stations {
 
 namespace {
 
-std::string PositionColumns(geo::GeoPosition position, ListingMode mode,
-                            geo::DegreeMinuteMode angleMode, const base::NumberFormat& format)
+void AppendPosition(std::string& listing, geo::GeoPosition position, ListingMode mode,
+                    geo::DegreeMinuteMode angleMode, const base::NumberFormat& format)
 {
+    const auto append = [&listing](const std::string& first, const auto&... more) {
+        listing += first;
+        ((listing += '\t', listing += more), ...);
+    };
     constexpr std::string_view kDegrees = "#0.00000000";
     switch (mode) {
     case ListingMode::Utm: {
         const geo::UtmPosition utm = geo::GeoUTM(position);
-        return format(utm.zone, "0") + '\t' + format(utm.easting, "0") + '\t'
-               + format(utm.northing, "0");
+        append(format(utm.zone, "0"), format(utm.easting, "0"), format(utm.northing, "0"));
+        return;
     }
-    case ListingMode::Locator: return geo::PositionToLocator(position.latitude, position.longitude);
+    case ListingMode::Locator:
+        append(geo::PositionToLocator(position.latitude, position.longitude));
+        return;
     case ListingMode::Degrees:
-        return format(position.latitude, kDegrees) + '\t' + format(position.longitude, kDegrees);
+        append(format(position.latitude, kDegrees), format(position.longitude, kDegrees));
+        return;
     case ListingMode::DegreeMinutes: break;
     }
-    return geo::ListingAngle(position.latitude, angleMode) + '\t'
-           + geo::ListingAngle(position.longitude, angleMode);
+    append(geo::ListingAngle(position.latitude, angleMode),
+           geo::ListingAngle(position.longitude, angleMode));
 }
 
 }  // namespace
@@ -38,7 +45,7 @@ std::string ListingText(std::span<const StationRecord> records, ListingMode mode
     std::string listing;
     listing.reserve(records.size() * kUsualLine);
     for (const StationRecord& record : records) {
-        listing += PositionColumns(record.Position(), mode, angleMode, format);
+        AppendPosition(listing, record.Position(), mode, angleMode, format);
         for (const Field field : kTextFields) {
             std::string text = record.Text(field);
             std::ranges::replace_if(

@@ -160,6 +160,7 @@ ImportResult ImportLines(std::string_view text, std::string_view date, StationDa
 {
     ImportResult result;
     const std::size_t before = database.Count();
+    static constexpr StationRecord kEmpty = EmptyRecord();
     constexpr std::size_t kShortestLine = 6;  // a character, two digits, two tabs and its end
     database.Reserve(std::min(before + text.size() / kShortestLine + 1, kMaxRecords));
     std::size_t number = 0;
@@ -175,18 +176,18 @@ ImportResult ImportLines(std::string_view text, std::string_view date, StationDa
                 Note({.number = number, .reason = *reason}, result.skipped, result.firstSkipped);
                 continue;
             }
-            const std::string bytes = ToBytes(line.text, compose);
-            StationRecord record = EmptyRecord();
-            if (!record.SetTexts({bytes, {}, bytes, {}, {}, date}).empty()) {
-                Note(number, result.cut, result.firstCut);
-            }
-            record.SetPosition({.latitude = line.numbers[0], .longitude = line.numbers[1]});
-            if (!database.Append(record)) {
+            if (!database.Append(kEmpty)) {
                 database.Truncate(before);
                 ImportResult tooMany;
                 tooMany.tooMany = true;
                 return tooMany;
             }
+            StationRecord& record = database.Last();
+            const std::string bytes = ToBytes(line.text, compose);
+            if (!record.SetTexts({bytes, {}, bytes, {}, {}, date}).empty()) {
+                Note(number, result.cut, result.firstCut);
+            }
+            record.SetPosition({.latitude = line.numbers[0], .longitude = line.numbers[1]});
         } while (!lines.empty());
     }
     result.imported = database.Count() - before;
