@@ -31,11 +31,11 @@ public:
     // All three return false, and change nothing, when that would make more than 25000 records.
     // `records` must not be this database's own.
     bool Append(const StationRecord& record);
+    bool Append(std::span<const StationRecord> records);
+    bool Append(const StationDatabase& other) { return Append(other.Records()); }
 
     // There must be one.
     StationRecord& Last() { return records_.back(); }
-    bool Append(std::span<const StationRecord> records);
-    bool Append(const StationDatabase& other) { return Append(other.Records()); }
 
     // `index` must be below Count().
     void Delete(std::size_t index);
