@@ -11,7 +11,7 @@ namespace {
 constexpr double kThin = 1e-2;
 
 template <std::size_t kSide>
-void Add(PixelRows<kSide>& sums, const Row<kSide>& share, const ReferencePoint& point)
+void Add(PixelRows<kSide>& sums, Row<kSide> share, const ReferencePoint& point)
 {
     for (std::size_t i = 0; i < kSide; ++i) {
         sums.weight[i] += share[i];
@@ -87,7 +87,7 @@ Elimination::View<kSide> Elimination::ViewFrom(const Places<kSide>& positions,
     }
     for (std::size_t point = 0; point < seen.size(); ++point) {
         const Place p = places_[point];
-        const Row<kSide>& weight = seen[point].weight;
+        const Row<kSide> weight = seen[point].weight;
         for (std::size_t i = 0; i < kSide; ++i) {
             v.one[i] += weight[i];
             v.along[i] += weight[i] * p.along;
@@ -100,7 +100,7 @@ Elimination::View<kSide> Elimination::ViewFrom(const Places<kSide>& positions,
     }
     for (std::size_t point = 0; point < seen.size(); ++point) {
         const Place p = places_[point];
-        const Row<kSide>& weight = seen[point].weight;
+        const Row<kSide> weight = seen[point].weight;
         for (std::size_t i = 0; i < kSide; ++i) {
             const double a = p.along - v.along[i];
             const double b = p.across - v.across[i];
@@ -114,7 +114,7 @@ Elimination::View<kSide> Elimination::ViewFrom(const Places<kSide>& positions,
     }
     for (std::size_t point = 0; point < seen.size(); ++point) {
         const Place p = places_[point];
-        const Row<kSide>& weight = seen[point].weight;
+        const Row<kSide> weight = seen[point].weight;
         for (std::size_t i = 0; i < kSide; ++i) {
             const double b = p.across - v.across[i] - v.slope[i] * (p.along - v.along[i]);
             v.rest[i] += weight[i] * b * b;

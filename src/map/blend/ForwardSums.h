@@ -49,6 +49,7 @@ template <std::size_t kSide>
 ForwardSums<kSide> SumUp(std::span<const ReferencePoint> points, std::span<const Column> columns,
                          const Places<kSide>& places, std::span<SeenPoint<kSide>> seen);
 
-inline constexpr std::size_t kManySides = 16;
+// Loops of up to sixteen rounds g++ unrolls before it could make them wide.
+inline constexpr std::size_t kManySides = 32;
 
 }  // namespace map
