@@ -28,8 +28,6 @@ public:
                         std::span<const SeenPoint<kSide>> seen) const;
 
 private:
-    using Extended = long double;
-
     // From the middle of the points: in degrees, and turned into their longest extent.
     struct Place {
         double x, y;

@@ -35,7 +35,6 @@ void FewTriangles::Add(std::span<const ReferencePoint> points, std::size_t i, st
                        std::size_t k)
 {
     // Extended precision: a thin triangle magnifies every error of its map.
-    using Extended = long double;
     const ReferencePoint& a = points[i];
     const ReferencePoint& b = points[j];
     const ReferencePoint& c = points[k];

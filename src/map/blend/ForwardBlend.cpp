@@ -33,9 +33,7 @@ PlanePoint Place(geo::GeoPosition position)
             .y = std::clamp(position.latitude, -kFarthestPoint, kFarthestPoint)};
 }
 
-// A place from P, in extended precision: the area of a thin triangle is a small difference.
-using Extended = long double;
-
+// A place from P: the area of a thin triangle is a small difference.
 struct SeenPlace {
     Extended x;
     Extended y;

@@ -76,7 +76,6 @@ void InverseBlend::AddTriangle(Vertex& i, Vertex& j, Vertex& k)
 // each vertex. Vertical bases and collinear triples are left in.
 void InverseBlend::AddAllTriangles()
 {
-    using Extended = long double;
     const auto count = static_cast<Extended>(vertices_.size());
     Extended meanX = 0;
     Extended meanY = 0;

@@ -12,6 +12,10 @@ struct PlanePoint {
     double y = 0.0;
 };
 
+// For small differences of products: a mantissa of 64 bits on x86. Where this is no longer than a
+// double, nothing breaks; thin triangles lose the digits that it adds.
+using Extended = long double;
+
 // Tables up to this size are treated triangle by triangle where that matters: rotations that are
 // left out are found one by one. Beyond it the work of a change would grow past what a user waits
 // for, while one triangle weighs less than a millionth of the whole.

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <iomanip>
 #include <limits>
+#include <optional>
 
 #include "map/blend/ExactBlend.h"
 #include "map/blend/ForwardBlend.h"
@@ -68,9 +69,12 @@ testing::AssertionResult ForwardAgrees(std::span<const ReferencePoint> points,
     for (std::size_t i = 0; i < positions.size(); ++i) {
         const geo::GeoPosition position = positions[i];
         const Pixel literal = TriangleBlendToPixel(points, position);
+        std::optional<Pixel> judged;  // once for both
         for (const Pixel prepared : {blend.At(position), many[i]}) {
-            auto result = Agrees(prepared, literal, kPixelBound,
-                                 [&] { return ExactToPixel(points, position); });
+            auto result = Agrees(prepared, literal, kPixelBound, [&] {
+                judged = judged ? *judged : ExactToPixel(points, position);
+                return *judged;
+            });
             if (!result) {
                 return result << std::setprecision(17) << " at " << position.latitude << '/'
                               << position.longitude << " with " << points.size() << " points";
