@@ -121,9 +121,9 @@ void ForwardBlend::At(std::span<const geo::GeoPosition> positions, std::span<Pix
 }
 
 template <std::size_t kSide>
-std::array<Pixel, kSide> ForwardBlend::Find(const Places<kSide>& places, Scratch<kSide>& seen) const
+PixelRows<kSide> ForwardBlend::SumUpCarefully(const Places<kSide>& places,
+                                              Scratch<kSide>& seen) const
 {
-    seen.resize(points_.size());
     ForwardSums<kSide> sums;
     if (elimination_.IsThin()) {
         See<kSide>(points_, places, seen);
@@ -139,6 +139,14 @@ std::array<Pixel, kSide> ForwardBlend::Find(const Places<kSide>& places, Scratch
             sum.y[i] = sums.exact[i] ? sum.y[i] : careful.y[i];
         }
     }
+    return sum;
+}
+
+template <std::size_t kSide>
+std::array<Pixel, kSide> ForwardBlend::Find(const Places<kSide>& places, Scratch<kSide>& seen) const
+{
+    seen.resize(points_.size());
+    PixelRows<kSide> sum = SumUpCarefully<kSide>(places, seen);
     const DirectionFilter filter = bases_.Filter();
     for (std::size_t c = 0; c < points_.size() && !bases_.All().empty(); ++c) {
         for (std::size_t i = 0; i < kSide; ++i) {

@@ -45,6 +45,10 @@ private:
     // By sums over more points than FewTriangles takes.
     template <std::size_t kSide>
     std::array<Pixel, kSide> Find(const Places<kSide>& places, Scratch<kSide>& seen) const;
+    // All rotations over bases that are not vertical; by elimination where the sums are not exact.
+    template <std::size_t kSide>
+    PixelRows<kSide> SumUpCarefully(const Places<kSide>& places, Scratch<kSide>& seen) const;
+
     // The rotations around apex `c` that are left out because their line is parallel to the base.
     WeightedPixel ParallelAround(std::size_t c, PlanePoint p) const;
     static void AddRotation(WeightedPixel& sum, PlanePoint p, const ReferencePoint& a,

@@ -13,6 +13,7 @@
 #include "map/SampleMaps.h"
 #include "map/blend/BlendAgreement.h"
 #include "map/blend/ExactBlend.h"
+#include "map/blend/ForwardSums.h"
 
 namespace map {
 namespace {
@@ -247,7 +248,9 @@ void SurvivesTablesOf(std::span<const double> extremes)
         ForwardBlend blend;
         blend.Prepare(points);
         std::vector<geo::GeoPosition> positions;
-        for (int i = 0; i < 17; ++i) {
+        constexpr std::size_t kPositions = kManySides + 1;
+        positions.reserve(kPositions);
+        for (std::size_t i = 0; i < kPositions; ++i) {
             positions.push_back({extremes[pick(random)], extremes[pick(random)]});
         }
         std::vector<Pixel> pixels(positions.size());
