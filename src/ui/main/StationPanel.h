@@ -51,12 +51,14 @@ public:
     const int station;  // 0 = Station 1, 1 = Station 2
 
     // Text[i] is the field Texti; there is no Text0.
-    //   1          Maidenhead locator
-    //   2, 3       longitude and latitude, decimal degrees
-    //   4 to 7     longitude: degrees, minutes, seconds or hundredths of a minute, hemisphere
-    //   letter 8 to 11    latitude likewise 12, 13     Gauss-Krüger easting (Rechtswert) and
-    //   northing (Hochwert) 14 to 19   callsign, name, place, frequency, remark, date 20 to 22 UTM
-    //   zone, easting, northing
+    //
+    //  - 1: Maidenhead locator
+    //  - 2, 3: longitude and latitude, decimal degrees
+    //  - 4 to 7: longitude: degrees, minutes, seconds or hundredths of a minute, hemisphere letter
+    //  - 8 to 11: latitude likewise
+    //  - 12, 13: Gauss-Krüger easting (Rechtswert) and northing (Hochwert)
+    //  - 14 to 19: callsign, name, place, frequency, remark, date
+    //  - 20 to 22: UTM zone, easting, northing
     std::array<EntryField*, 23> Text = {};
 
     QPushButton* Command1;  // "Laden": load a station from the list
