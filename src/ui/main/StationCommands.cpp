@@ -1,11 +1,11 @@
 #include "ui/main/StationCommands.h"
 
-#include <cmath>
 #include <ctime>
 
 #include "base/TimeStamp.h"
 #include "ui/DatabaseActions.h"
 #include "ui/UserDialogs.h"
+#include "ui/main/CoordinateForms.h"
 #include "ui/main/Display.h"
 #include "ui/main/MainForm.h"
 #include "ui/main/StationListFrame.h"
@@ -24,7 +24,7 @@ bool MayStore(QWidget& window, UserDialogs& dialogs, int station,
               const stations::StationTexts& texts, geo::GeoPosition position, std::string_view now)
 {
     const QString name = u"Station %1"_s.arg(station + 1);
-    if (!std::isfinite(position.latitude) || !std::isfinite(position.longitude)) {
+    if (!IsFinite(position)) {
         dialogs.Inform(&window, {},
                        u"Die Koordinaten von "_s + name
                            + u" ergeben keine Position, der Eintrag wird nicht gesichert!"_s);
